@@ -1,0 +1,32 @@
+// The user's clock: today's date and the time of day that the editor works with.
+#pragma once
+
+#include "platform/DateTime.h"
+
+namespace kestedit {
+
+class Clock {
+  public:
+    virtual ~Clock() = default;
+
+    /// The present moment in the user's time zone, in whole seconds.
+    [[nodiscard]] virtual LocalTime now() const = 0;
+};
+
+/// The machine's clock.
+class SystemClock final : public Clock {
+  public:
+    [[nodiscard]] LocalTime now() const override;
+};
+
+/// A clock that stands still: runs that must print the same every time use it.
+class FixedClock final : public Clock {
+  public:
+    explicit FixedClock(LocalTime moment) : moment_(moment) {}
+    [[nodiscard]] LocalTime now() const override { return moment_; }
+
+  private:
+    LocalTime moment_;
+};
+
+}  // namespace kestedit

@@ -1,0 +1,56 @@
+// The code page of INI files: how the core's UTF-8 meets the bytes of a file.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace kestedit {
+
+/// One code page, by its number: 65001 is UTF-8, any other a single-byte page that the system's iconv knows as
+/// "CP<number>".
+///
+/// Every byte string survives decode and encode unchanged: a byte that the page does not define becomes a character
+/// that only this class uses and turns back into that byte.
+class CodePage {
+  public:
+    static constexpr int western = 1252;
+    static constexpr int utf8 = 65001;
+
+    /// Throws std::invalid_argument for a page that the system does not know or that is not single-byte.
+    explicit CodePage(int number = western);
+
+    [[nodiscard]] int number() const { return number_; }
+
+    /// Bytes of a file as UTF-8.
+    [[nodiscard]] std::string decode(std::string_view bytes) const;
+
+    /// UTF-8 as bytes of a file; nothing when `text` is not UTF-8 or holds a character that the page lacks.
+    [[nodiscard]] std::optional<std::string> encode(std::string_view text) const;
+
+    /// The lower-case form of an encoded name: two names are the same when these forms are equal.
+    [[nodiscard]] std::string fold(std::string_view bytes) const;
+
+    /// The same into `folded`, whose memory is reused.
+    void fold(std::string_view bytes, std::string& folded) const;
+
+    /// Whether `text` is the same in UTF-8 and in this page, character by character.
+    [[nodiscard]] bool isPlain(std::string_view text) const;
+
+    /// The longest head of `bytes` that is at most `size` bytes long and ends between two characters.
+    [[nodiscard]] std::string_view cut(std::string_view bytes, std::size_t size) const;
+
+    /// The longest head of UTF-8 `text` that takes at most `size` bytes in a file. A character that the page lacks
+    /// counts as one byte.
+    [[nodiscard]] std::string_view cutText(std::string_view text, std::size_t size) const;
+
+  private:
+    struct Tables;
+    static const Tables& tablesOf(int number);
+
+    int number_;
+    const Tables* tables_;  // made once for each page, kept as long as the process lives
+};
+
+}  // namespace kestedit

@@ -1,0 +1,85 @@
+#include "platform/FileContent.h"
+
+#include <algorithm>
+#include <chrono>
+#include <fcntl.h>
+#include <unistd.h>
+
+#include "platform/Posix.h"
+
+namespace kestedit {
+
+namespace {
+
+bool sameMoment(const std::timespec& left, const std::timespec& right) {
+    return left.tv_sec == right.tv_sec && left.tv_nsec == right.tv_nsec;
+}
+
+/// Whether the last change lies further back than one tick of the file system's clock. The change time counts and not
+/// the modification time, because programs can set that one to any moment.
+bool isLongAgo(const std::timespec& changed) {
+    using namespace std::chrono;
+    const bool wholeSeconds = changed.tv_nsec == 0;  // likely a file system that knows no fractions
+    const nanoseconds tick = wholeSeconds ? nanoseconds{seconds{2}} : nanoseconds{milliseconds{50}};
+    const nanoseconds moment = seconds{changed.tv_sec} + nanoseconds{changed.tv_nsec};
+    return duration_cast<nanoseconds>(system_clock::now().time_since_epoch()) - moment > tick;
+}
+
+/// Reads until `capacity` bytes are there or the file ends; returns how many there are.
+std::size_t fill(const FileDescriptor& file, char* buffer, std::size_t used, std::size_t capacity,
+                 const std::filesystem::path& path) {
+    while (used < capacity) {
+        const ssize_t count = uninterrupted([&] { return ::read(file.number(), buffer + used, capacity - used); });
+        if (count < 0) throw systemFailure("read", path);
+        if (count == 0) break;
+        used += static_cast<std::size_t>(count);
+    }
+    return used;
+}
+
+}  // namespace
+
+FileIdentity::FileIdentity(const struct stat& status)
+    : device(status.st_dev),
+      inode(status.st_ino),
+      size(status.st_size),
+      modified(status.st_mtim),
+      changed(status.st_ctim) {}
+
+bool FileIdentity::operator==(const FileIdentity& other) const {
+    return device == other.device && inode == other.inode && size == other.size &&
+           sameMoment(modified, other.modified) && sameMoment(changed, other.changed);
+}
+
+void requireRegularFile(const struct stat& status, const char* operation, const std::filesystem::path& path) {
+    if (S_ISREG(status.st_mode)) return;
+    const bool folder = S_ISDIR(status.st_mode);
+    throw systemFailure(operation + std::string(folder ? " folder" : " special file"), path,
+                        std::make_error_code(folder ? std::errc::is_a_directory : std::errc::not_supported));
+}
+
+FileContent::FileContent(const struct stat& status) : identity_(status), settled_(isLongAgo(status.st_ctim)) {}
+
+FileContent FileContent::read(const std::filesystem::path& path) {
+    const FileDescriptor file(openFile(path, O_RDONLY | O_NONBLOCK));
+    if (!file.isOpen()) throw systemFailure("open", path);
+    struct stat status {};
+    if (::fstat(file.number(), &status) != 0) throw systemFailure("look at", path);
+    requireRegularFile(status, "read", path);
+
+    FileContent content(status);
+    // One byte more than the file has: a read that leaves it free has met the end.
+    std::size_t capacity = static_cast<std::size_t>(status.st_size) + 1;
+    for (;;) {
+        if (capacity > maximumSize + 1)
+            throw systemFailure("read", path, std::make_error_code(std::errc::file_too_large));
+        auto buffer = std::make_unique_for_overwrite<char[]>(capacity);
+        std::copy_n(content.bytes_.get(), content.size_, buffer.get());
+        content.bytes_ = std::move(buffer);
+        content.size_ = fill(file, content.bytes_.get(), content.size_, capacity, path);
+        if (content.size_ < capacity) return content;
+        capacity *= 2;  // the file has grown since
+    }
+}
+
+}  // namespace kestedit

@@ -1,0 +1,170 @@
+#include "platform/IniEdit.h"
+
+#include <algorithm>
+#include <iterator>
+#include <optional>
+#include <tuple>
+#include <utility>
+
+namespace kestedit {
+
+namespace {
+
+constexpr std::string_view lineBreaksAndNul{"\r\n\0", 3};
+
+std::string inMessage(std::string_view section, std::string_view key) {
+    return "key \"" + std::string(key) + "\" of section \"" + std::string(section) + '"';
+}
+
+/// `text` in the code page. `buffer` holds it where it differs from UTF-8.
+std::string_view encoded(const CodePage& page, std::string_view text, std::string& buffer, std::string_view section,
+                         std::string_view key) {
+    if (page.isPlain(text)) return text;
+    std::optional<std::string> bytes = page.encode(text);
+    if (!bytes) {
+        throw UnwritableText(inMessage(section, key) + ": code page " + std::to_string(page.number()) +
+                                 " cannot hold \"" + std::string(text) + '"',
+                             std::errc::illegal_byte_sequence);
+    }
+    buffer = std::move(*bytes);
+    return buffer;
+}
+
+bool isWritableSection(std::string_view name) {
+    return name.find(']') == std::string_view::npos && name.find_first_of(lineBreaksAndNul) == std::string_view::npos;
+}
+
+bool isWritableKey(std::string_view name) {
+    return !name.empty() && name.front() != ';' && name.front() != '[' && name.find('=') == std::string_view::npos &&
+           name.find_first_of(lineBreaksAndNul) == std::string_view::npos;
+}
+
+}  // namespace
+
+IniEdit::IniEdit(std::shared_ptr<const IniText> base) : base_(std::move(base)), lineEnd_(base_->lineEnd()) {}
+
+void IniEdit::set(std::string_view section, std::string_view key, std::string_view value) {
+    const CodePage& page = base_->codePage();
+    std::string sectionBuffer;
+    std::string keyBuffer;
+    std::string valueBuffer;
+    const std::string_view sectionName = trimName(encoded(page, section, sectionBuffer, section, key));
+    const std::string_view keyName = trimName(encoded(page, key, keyBuffer, section, key));
+    const std::string_view valueBytes = encoded(page, value, valueBuffer, section, key);
+    if (!isWritableSection(sectionName) || !isWritableKey(keyName)) {
+        throw UnwritableText(inMessage(section, key) + ": an INI file cannot hold this name",
+                             std::errc::invalid_argument);
+    }
+    const std::size_t number = sectionFor(sectionName, page.fold(sectionName));
+    const std::string folded = page.fold(keyName);
+    if (number < base_->sectionCount()) {
+        if (const std::optional<IniText::Range> place = base_->findKey(number, folded)) {
+            replacements_.push_back({*place, rememberValue(valueBytes)});
+            return;
+        }
+    }
+    setNewKey(number, keyName, folded, valueBytes);
+}
+
+std::size_t IniEdit::sectionFor(std::string_view name, std::string folded) {
+    if (const std::optional<std::size_t> existing = base_->findSection(folded)) return *existing;
+    const auto [entry, isNew] =
+        newSections_.try_emplace(std::move(folded), base_->sectionCount() + newSections_.size());
+    if (isNew) {
+        const Stretch line = remember('[' + std::string(name) + ']' + std::string(lineEnd_));
+        newLines_.push_back({base_->bytes().size(), entry->second, 0, line});
+    }
+    return entry->second;
+}
+
+void IniEdit::setNewKey(std::size_t section, std::string_view name, const std::string& folded, std::string_view value) {
+    const auto [entry, isNew] = newKeys_.try_emplace(std::to_string(section) + '=' + folded, newLines_.size());
+    if (isNew) {
+        const bool isNewSection = section >= base_->sectionCount();
+        const std::size_t position = isNewSection ? base_->bytes().size() : base_->endOfKeys(section);
+        newLines_.push_back({position, section, name.size(), {}});
+    }
+    NewLine& line = newLines_[entry->second];
+    // The key keeps the spelling that it was first set by, as a key of the file does.
+    const std::string spelling(isNew ? name : text(line.line).substr(0, line.nameLength));
+    line.line = remember(spelling + '=');
+    line.line.length += rememberValue(value).length + remember(lineEnd_).length;
+}
+
+IniEdit::Stretch IniEdit::remember(std::string_view text) {
+    const Stretch stretch{texts_.size(), text.size()};
+    texts_ += text;
+    return stretch;
+}
+
+/// Line breaks and NUL become blanks, so that no value makes a line of its own.
+IniEdit::Stretch IniEdit::rememberValue(std::string_view value) {
+    const Stretch stretch = remember(value);
+    if (value.find_first_of(lineBreaksAndNul) == std::string_view::npos) return stretch;
+    const auto isBroken = [](char byte) { return lineBreaksAndNul.find(byte) != std::string_view::npos; };
+    std::replace_if(texts_.begin() + static_cast<std::ptrdiff_t>(stretch.begin), texts_.end(), isBroken, ' ');
+    return stretch;
+}
+
+std::string_view IniEdit::text(Stretch stretch) const {
+    return std::string_view(texts_).substr(stretch.begin, stretch.length);
+}
+
+std::vector<IniEdit::Replacement> IniEdit::replacementsInOrder() const {
+    std::vector<Replacement> ordered = replacements_;
+    const auto byPlace = [](const Replacement& left, const Replacement& right) {
+        return left.place.begin < right.place.begin;
+    };
+    std::ranges::stable_sort(ordered, byPlace);
+    // Of several values for one key the last one set comes last.
+    const auto isOutdated = [&](const Replacement& entry) {
+        return &entry != &ordered.back() && (&entry)[1].place.begin == entry.place.begin;
+    };
+    std::vector<Replacement> valid;
+    std::ranges::remove_copy_if(ordered, std::back_inserter(valid), isOutdated);
+    return valid;
+}
+
+std::vector<IniEdit::NewLine> IniEdit::newLinesInOrder() const {
+    std::vector<NewLine> ordered = newLines_;
+    std::ranges::stable_sort(ordered, [](const NewLine& left, const NewLine& right) {
+        return std::tie(left.position, left.section) < std::tie(right.position, right.section);
+    });
+    return ordered;
+}
+
+std::vector<std::string_view> IniEdit::pieces() const {
+    const std::string_view base = base_->bytes();
+    const std::vector<Replacement> replacements = replacementsInOrder();
+    const std::vector<NewLine> newLines = newLinesInOrder();
+    std::vector<std::string_view> pieces;
+    pieces.reserve(2 * (replacements.size() + newLines.size()) + 2);
+    std::size_t copied = 0;
+    const auto copyTo = [&](std::size_t place) {
+        if (place > copied) pieces.push_back(base.substr(copied, place - copied));
+        copied = place;
+    };
+    auto replacement = replacements.begin();
+    const auto replaceUpTo = [&](std::size_t place) {
+        for (; replacement != replacements.end() && replacement->place.begin <= place; ++replacement) {
+            copyTo(replacement->place.begin);
+            pieces.push_back(text(replacement->value));
+            copied = replacement->place.end;
+        }
+    };
+    bool lineIsOpen = !base_->endsWithLineEnd();
+    for (const NewLine& line : newLines) {
+        replaceUpTo(line.position);
+        copyTo(line.position);
+        if (lineIsOpen && line.position == base.size()) {
+            pieces.push_back(lineEnd_);
+            lineIsOpen = false;
+        }
+        pieces.push_back(text(line.line));
+    }
+    replaceUpTo(base.size());
+    copyTo(base.size());
+    return pieces;
+}
+
+}  // namespace kestedit

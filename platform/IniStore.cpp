@@ -1,0 +1,203 @@
+#include "platform/IniStore.h"
+
+#include <algorithm>
+#include <new>
+#include <stdexcept>
+#include <sys/stat.h>
+#include <utility>
+#include <vector>
+
+#include "platform/IniEdit.h"
+#include "platform/IniText.h"
+#include "platform/Posix.h"
+#include "platform/Text.h"
+
+namespace kestedit {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+using SharedText = std::shared_ptr<const IniText>;
+
+/// The folded form of a name that a caller asks for; nothing when no file of this page can hold it.
+std::optional<std::string> foldedName(const CodePage& page, std::string_view name) {
+    if (page.isPlain(name)) return page.fold(trimName(name));
+    const std::optional<std::string> bytes = page.encode(name);
+    if (!bytes) return std::nullopt;
+    return page.fold(trimName(*bytes));
+}
+
+/// The value in the file's own bytes.
+std::optional<std::string_view> findValue(const IniText& text, std::string_view section, std::string_view key) {
+    const std::optional<std::string> sectionName = foldedName(text.codePage(), section);
+    const std::optional<std::string> keyName = foldedName(text.codePage(), key);
+    if (!sectionName || !keyName) return std::nullopt;
+    const std::optional<std::size_t> number = text.findSection(*sectionName);
+    if (!number) return std::nullopt;
+    const std::optional<IniText::Range> place = text.findKey(*number, *keyName);
+    if (!place) return std::nullopt;
+    return text.value(*place);
+}
+
+/// The files read last, each for as long as it stands unchanged on disk.
+class RecentFiles {
+  public:
+    explicit RecentFiles(CodePage page) : page_(page) {}
+
+    /// The file as it is now. Throws std::system_error.
+    SharedText get(const fs::path& file) {
+        const auto known = std::ranges::find(files_, file.native(), &Entry::path);
+        if (known != files_.end()) {
+            if (isCurrent(*known)) {
+                std::rotate(files_.begin(), known, known + 1);
+                return files_.front().text;
+            }
+            files_.erase(known);
+        }
+        SharedText text = std::make_shared<const IniText>(page_, FileContent::read(file));
+        files_.insert(files_.begin(), {file.native(), text});
+        forgetOldest();
+        return text;
+    }
+
+    void forget(const fs::path& file) {
+        std::erase_if(files_, [&](const Entry& entry) { return entry.path == file.native(); });
+    }
+
+  private:
+    struct Entry {
+        std::string path;
+        SharedText text;
+    };
+
+    static bool isCurrent(const Entry& entry) {
+        struct stat status {};
+        const FileContent& content = *entry.text->content();
+        return content.isSettled() && ::stat(entry.path.c_str(), &status) == 0 &&
+               content.identity() == FileIdentity(status);
+    }
+
+    void forgetOldest() {
+        constexpr std::size_t mostFiles = 16;
+        constexpr std::size_t mostBytes = std::size_t{32} << 20U;
+        std::size_t bytes = 0;
+        std::size_t kept = 0;
+        while (kept < files_.size() && kept < mostFiles && (kept == 0 || bytes < mostBytes)) {
+            bytes += files_[kept++].text->bytes().size();
+        }
+        files_.resize(kept);
+    }
+
+    CodePage page_;
+    std::vector<Entry> files_;  // the one used last comes first
+};
+
+}  // namespace
+
+struct IniStore::Impl {
+    explicit Impl(CodePage chosen) : page(chosen), files(chosen) {}
+
+    CodePage page;
+    RecentFiles files;
+    std::error_code lastError;
+};
+
+struct IniStore::Snapshot::Impl {
+    SharedText text;
+};
+
+struct IniStore::Edit::Impl {
+    fs::path target;
+    IniEdit edit;
+};
+
+IniStore::IniStore(CodePage page) : impl_(std::make_unique<Impl>(page)) {}
+IniStore::~IniStore() = default;
+
+const CodePage& IniStore::codePage() const {
+    return impl_->page;
+}
+
+std::string IniStore::read(const fs::path& file, std::string_view section, std::string_view key,
+                           std::string_view fallback, std::size_t size) {
+    if (size == 0) return {};
+    const CodePage& page = impl_->page;
+    try {
+        const SharedText text = impl_->files.get(file);
+        if (const auto value = findValue(*text, section, key)) return page.decode(page.cut(*value, size - 1));
+    } catch (const std::system_error&) {
+        // A file that cannot be read has no keys.
+    }
+    fallback = fallback.substr(0, fallback.find_last_not_of(' ') + 1);
+    return std::string(page.cutText(fallback, size - 1));
+}
+
+std::error_code IniStore::write(const fs::path& file, std::string_view section, std::string_view key,
+                                std::string_view value) {
+    std::error_code& error = impl_->lastError;
+    try {
+        Edit change = edit(file, false);
+        change.set(section, key, value);
+        change.stage(StagedFile::Permissions::keep).commit();
+        error.clear();
+    } catch (const std::system_error& failure) {
+        error = failure.code();
+    } catch (const UnwritableText& failure) {
+        error = failure.code();
+    } catch (const std::bad_alloc&) {
+        error = std::make_error_code(std::errc::not_enough_memory);
+    }
+    impl_->files.forget(file);
+    return error;
+}
+
+std::error_code IniStore::lastError() const {
+    return impl_->lastError;
+}
+
+IniStore::Snapshot IniStore::open(const fs::path& file) {
+    return Snapshot(std::make_unique<Snapshot::Impl>(Snapshot::Impl{impl_->files.get(file)}));
+}
+
+IniStore::Edit IniStore::edit(const fs::path& file, bool startEmpty) {
+    SharedText base;
+    try {
+        if (!startEmpty) base = impl_->files.get(file);
+    } catch (const std::system_error& failure) {
+        if (failure.code() != std::errc::no_such_file_or_directory) throw;
+    }
+    if (!base) base = std::make_shared<const IniText>(impl_->page);
+    return Edit(std::make_unique<Edit::Impl>(Edit::Impl{file, IniEdit(std::move(base))}));
+}
+
+IniStore::Snapshot::Snapshot(std::unique_ptr<Impl> impl) : impl_(std::move(impl)) {}
+IniStore::Snapshot::Snapshot(Snapshot&&) noexcept = default;
+IniStore::Snapshot& IniStore::Snapshot::operator=(Snapshot&&) noexcept = default;
+IniStore::Snapshot::~Snapshot() = default;
+
+bool IniStore::Snapshot::hasSection(std::string_view section) const {
+    const std::optional<std::string> name = foldedName(impl_->text->codePage(), section);
+    return name && impl_->text->findSection(*name);
+}
+
+std::optional<std::string> IniStore::Snapshot::value(std::string_view section, std::string_view key) const {
+    const std::optional<std::string_view> value = findValue(*impl_->text, section, key);
+    if (!value) return std::nullopt;
+    return impl_->text->codePage().decode(*value);
+}
+
+IniStore::Edit::Edit(std::unique_ptr<Impl> impl) : impl_(std::move(impl)) {}
+IniStore::Edit::Edit(Edit&&) noexcept = default;
+IniStore::Edit& IniStore::Edit::operator=(Edit&&) noexcept = default;
+IniStore::Edit::~Edit() = default;
+
+void IniStore::Edit::set(std::string_view section, std::string_view key, std::string_view value) {
+    impl_->edit.set(section, key, value);
+}
+
+StagedFile IniStore::Edit::stage(StagedFile::Permissions permissions) const {
+    return {impl_->target, std::span<const std::string_view>(impl_->edit.pieces()), permissions};
+}
+
+}  // namespace kestedit

@@ -1,0 +1,100 @@
+// INI files by the rules of the platform's private-profile functions, over an engine that keeps every byte it is not
+// asked to change. Texts are UTF-8 here; the code page applies on the way to the file and back.
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <system_error>
+
+#include "platform/CodePage.h"
+#include "platform/StagedFile.h"
+
+namespace kestedit {
+
+/// Reads and writes INI files by section and key.
+///
+/// A file is read once for as long as it does not change on disk (device, inode, size, modification time); after that a
+/// read by key is a hash look-up. Names compare without regard to case in the whole code page, the first section of a
+/// name and the first key of a name count. docs/ini.md lists the rules of the format.
+class IniStore {
+  public:
+    explicit IniStore(CodePage page = CodePage{});
+    ~IniStore();
+    IniStore(const IniStore&) = delete;
+    IniStore& operator=(const IniStore&) = delete;
+
+    [[nodiscard]] const CodePage& codePage() const;
+
+    /// The value of `key`, cut to `size - 1` bytes of the code page (never inside a character); `fallback`, cut the same
+    /// way and without the blanks at its end, when file, section or key is missing or the file cannot be read.
+    [[nodiscard]] std::string read(const std::filesystem::path& file, std::string_view section, std::string_view key,
+                                   std::string_view fallback, std::size_t size);
+
+    /// Writes one key and replaces the file as a whole; creates file and section when needed. An empty value stays as a
+    /// key with an empty value. A failure changes nothing on disk; it is returned and recorded, never thrown.
+    std::error_code write(const std::filesystem::path& file, std::string_view section, std::string_view key,
+                          std::string_view value);
+
+    /// What the most recent write came to.
+    [[nodiscard]] std::error_code lastError() const;
+
+    class Snapshot;
+    class Edit;
+
+    /// The file as it is now, for many reads with one look at the disk. Throws std::system_error when it cannot be read.
+    [[nodiscard]] Snapshot open(const std::filesystem::path& file);
+
+    /// Collects the keys of one save. `startEmpty` forgets what the file holds; otherwise its lines are kept, and a
+    /// missing file counts as empty. Throws std::system_error when an existing file cannot be read.
+    [[nodiscard]] Edit edit(const std::filesystem::path& file, bool startEmpty);
+
+  private:
+    struct Impl;
+    std::unique_ptr<Impl> impl_;
+};
+
+/// One file's content at the moment it was opened.
+class IniStore::Snapshot {
+  public:
+    Snapshot(Snapshot&&) noexcept;
+    Snapshot& operator=(Snapshot&&) noexcept;
+    ~Snapshot();
+
+    [[nodiscard]] bool hasSection(std::string_view section) const;
+
+    /// The whole value; nothing when section or key is missing.
+    [[nodiscard]] std::optional<std::string> value(std::string_view section, std::string_view key) const;
+
+  private:
+    friend class IniStore;
+    struct Impl;
+    explicit Snapshot(std::unique_ptr<Impl> impl);
+    std::unique_ptr<Impl> impl_;
+};
+
+/// The keys of one save, applied in memory until they are staged.
+class IniStore::Edit {
+  public:
+    Edit(Edit&&) noexcept;
+    Edit& operator=(Edit&&) noexcept;
+    ~Edit();
+
+    /// Line breaks and NUL in `value` become blanks. Throws std::invalid_argument, naming the key, when the code page
+    /// cannot hold a text.
+    void set(std::string_view section, std::string_view key, std::string_view value);
+
+    /// Writes and syncs the whole content to a temporary file beside the target. Throws std::system_error.
+    [[nodiscard]] StagedFile stage(StagedFile::Permissions permissions) const;
+
+  private:
+    friend class IniStore;
+    struct Impl;
+    explicit Edit(std::unique_ptr<Impl> impl);
+    std::unique_ptr<Impl> impl_;
+};
+
+}  // namespace kestedit

@@ -1,0 +1,94 @@
+#include "platform/TemporaryFile.h"
+
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <chrono>
+#include <cstdint>
+#include <fcntl.h>
+#include <string>
+#include <sys/uio.h>
+#include <unistd.h>
+#include <vector>
+
+#include "platform/Posix.h"
+
+namespace kestedit {
+
+namespace {
+
+/// A name that no other process and no other call of this one picks, but for a leftover of a crashed run.
+std::string freshName() {
+    static std::atomic<std::uint64_t> counter{
+        static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count())};
+    return ".kestedit-" + std::to_string(::getpid()) + '-' + std::to_string(counter.fetch_add(1)) + ".tmp";
+}
+
+int createFile(const std::filesystem::path& folder, mode_t mode, std::filesystem::path& path) {
+    int number = -1;
+    do {
+        path = folder / freshName();
+        number = openFile(path, O_WRONLY | O_CREAT | O_EXCL, mode);
+    } while (number < 0 && errno == EEXIST);
+    return number;
+}
+
+/// Gives the still empty file the owner, group and permissions of the file whose place it will take.
+void takeAfter(int file, const struct stat& model, mode_t mode, const std::filesystem::path& path) {
+    struct stat own {};
+    if (::fstat(file, &own) != 0) throw systemFailure("look at", path);
+    bool owned = own.st_uid == model.st_uid && own.st_gid == model.st_gid;
+    if (!owned) {
+        // Only root may give files away; a member of the group may still keep the group.
+        owned = ::fchown(file, model.st_uid, model.st_gid) == 0 || ::fchown(file, own.st_uid, model.st_gid) == 0;
+        own.st_mode = 0;  // a change of owner may have cleared bits
+    }
+    if ((own.st_mode & 07777U) != mode && ::fchmod(file, mode) != 0) throw systemFailure("set permissions of", path);
+}
+
+void writePieces(int file, std::span<const std::string_view> pieces, const std::filesystem::path& path) {
+    constexpr std::size_t batch = 256;
+    std::array<iovec, batch> vectors{};
+    std::size_t skip = 0;  // bytes of the first piece that are written already
+    while (!pieces.empty()) {
+        const std::size_t count = std::min(batch, pieces.size());
+        for (std::size_t i = 0; i < count; ++i) {
+            const std::string_view piece = pieces[i].substr(i == 0 ? skip : 0);
+            vectors[i] = {const_cast<char*>(piece.data()), piece.size()};
+        }
+        const ssize_t result = uninterrupted([&] { return ::writev(file, vectors.data(), static_cast<int>(count)); });
+        if (result < 0) throw systemFailure("write", path);
+        std::size_t written = static_cast<std::size_t>(result) + skip;
+        while (!pieces.empty() && written >= pieces.front().size()) {
+            written -= pieces.front().size();
+            pieces = pieces.subspan(1);
+        }
+        skip = written;
+    }
+}
+
+}  // namespace
+
+std::filesystem::path writeTemporaryFile(const std::filesystem::path& folder, std::span<const std::string_view> pieces,
+                                         mode_t mode, const struct stat* model) {
+    std::filesystem::path path;
+    FileDescriptor file(createFile(folder, mode, path));
+    if (!file.isOpen()) throw systemFailure("create", path);
+    try {
+        if (model != nullptr) takeAfter(file.number(), *model, mode, path);
+        writePieces(file.number(), pieces, path);
+        if (uninterrupted([&] { return ::fsync(file.number()); }) != 0) throw systemFailure("sync", path);
+        if (!file.close()) throw systemFailure("close", path);
+    } catch (...) {
+        ::unlink(path.c_str());
+        throw;
+    }
+    return path;
+}
+
+void syncFolder(const std::filesystem::path& folder) noexcept {
+    const FileDescriptor opened(openFile(folder, O_RDONLY | O_DIRECTORY));
+    if (opened.isOpen()) uninterrupted([&] { return ::fsync(opened.number()); });
+}
+
+}  // namespace kestedit

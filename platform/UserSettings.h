@@ -1,0 +1,45 @@
+// Settings of the user, kept apart from jobs and from the program settings file that a host hands over.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <utility>
+
+namespace kestedit {
+
+/// An INI file of the editor's own in the user's configuration folder, always UTF-8.
+class UserSettings {
+  public:
+    virtual ~UserSettings() = default;
+
+    /// The stored text; `fallback` when there is none.
+    [[nodiscard]] virtual std::string read(std::string_view section, std::string_view key,
+                                           std::string_view fallback) const = 0;
+    /// Creates folder and file when needed. A failure is returned and changes nothing.
+    virtual std::error_code write(std::string_view section, std::string_view key, std::string_view value) = 0;
+};
+
+/// The folders of one user by the XDG base directory rules, each with the product's name at its end.
+struct UserFolders {
+    std::filesystem::path config;  ///< $XDG_CONFIG_HOME/kestedit or ~/.config/kestedit
+    std::filesystem::path data;    ///< $XDG_DATA_HOME/kestedit or ~/.local/share/kestedit
+};
+
+/// A relative or empty XDG variable counts as unset.
+[[nodiscard]] UserFolders userFolders();
+
+/// The user's settings in `file`, usually userFolders().config / "user.ini".
+class UserSettingsFile final : public UserSettings {
+  public:
+    explicit UserSettingsFile(std::filesystem::path file) : file_(std::move(file)) {}
+    [[nodiscard]] std::string read(std::string_view section, std::string_view key,
+                                   std::string_view fallback) const override;
+    std::error_code write(std::string_view section, std::string_view key, std::string_view value) override;
+
+  private:
+    std::filesystem::path file_;
+};
+
+}  // namespace kestedit
