@@ -1,0 +1,157 @@
+#include "editor/rules/paths.h"
+
+#include <algorithm>
+#include <chrono>
+#include <filesystem>
+#include <optional>
+#include <vector>
+
+#include "editor/rules/action.h"
+#include "editor/rules/applicability.h"
+
+namespace kestedit {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::chrono::milliseconds checkTime{2000};
+
+/// What can be wrong with one folder by itself, and what the job wants from it.
+struct FolderFindings {
+    PathFinding empty;
+    PathFinding missing;
+    PathFinding unusable;
+    PathFinding noAnswer;
+    bool FolderStatus::*usable;
+};
+
+constexpr FolderFindings sourceFindings{PathFinding::noSource, PathFinding::sourceMissing,
+                                        PathFinding::sourceUnreadable, PathFinding::sourceNoAnswer,
+                                        &FolderStatus::readable};
+constexpr FolderFindings destinationFindings{PathFinding::noDestination, PathFinding::destinationMissing,
+                                             PathFinding::destinationNotWritable, PathFinding::destinationNoAnswer,
+                                             &FolderStatus::writable};
+constexpr FolderFindings monitoredFindings{PathFinding::noMonitored, PathFinding::monitoredMissing,
+                                           PathFinding::monitoredUnreadable, PathFinding::monitoredNoAnswer,
+                                           &FolderStatus::readable};
+
+std::optional<PathFinding> judge(const EditorControl& field, const FolderStatus& status,
+                                 const FolderFindings& findings) {
+    if (field.isEmpty()) return findings.empty;
+    if (!status.answered) return findings.noAnswer;
+    if (!status.exists) return findings.missing;
+    if (!(status.*findings.usable)) return findings.unusable;
+    return std::nullopt;
+}
+
+/// Component by component: "/data/old" is inside "/data" and not inside "/dat". A path is not inside itself.
+bool isInside(const fs::path& inner, const fs::path& outer) {
+    const auto [rest, end] = std::mismatch(inner.begin(), inner.end(), outer.begin(), outer.end());
+    return end == outer.end() && rest != inner.end();
+}
+
+std::optional<PathFinding> compareFolders(const fs::path& source, const fs::path& destination) {
+    if (source == destination) return PathFinding::sameFolder;
+    if (isInside(destination, source)) return PathFinding::destinationInSource;
+    if (isInside(source, destination)) return PathFinding::sourceInDestination;
+    return std::nullopt;
+}
+
+bool watchesOwnFolder(const FormModel& form) {
+    return form.optIntervall[2].isSet() && form.optMonitorPath[2].isSet();
+}
+
+/// Whether the job deletes files at the source, or writes to it.
+bool changesSource(const FormModel& form) {
+    const bool deletesRenamed = form.optExist[2].isSet() && form.chkDelSourceRename.isSet();
+    switch (selectedAction(form)) {
+        case Action::move:
+        case Action::remove:
+            return true;
+        case Action::copy:
+            return deletesRenamed;
+        case Action::compress:
+            return form.chkZipDelComp.isSet() || deletesRenamed;
+        case Action::extract:
+            return form.chkZipDelDeComp.isSet();
+        case Action::synchronise:
+            return form.optSyncStart[1].isSet();
+    }
+    return false;
+}
+
+/// One look at all folders of a job.
+class PathCheck {
+  public:
+    PathCheck(const FormModel& form, const FileSystem& files)
+        : form_(form), files_(files), end_(std::chrono::steady_clock::now() + checkTime) {}
+
+    std::optional<PathFinding> run() {
+        const FolderStatus source = look(form_.dxSource, sourceFindings);
+        if (HasDestination(form_)) {
+            look(form_.dxDest, destinationFindings);
+            compare();
+        }
+        if (watchesOwnFolder(form_)) look(form_.dxMonitorPath, monitoredFindings);
+        const bool known = source.answered && source.exists;
+        if (known && !source.writable && changesSource(form_)) found_.push_back(PathFinding::sourceNotWritable);
+        // The enumerators stand in the order in which findings are shown.
+        return found_.empty() ? std::nullopt : std::optional{std::ranges::min(found_)};
+    }
+
+  private:
+    FolderStatus look(const EditorControl& field, const FolderFindings& findings) {
+        const FolderStatus status = field.isEmpty() ? FolderStatus{} : files_.inspectFolder(field.text(), patience());
+        note(judge(field, status, findings));
+        return status;
+    }
+
+    void compare() {
+        if (form_.dxSource.isEmpty() || form_.dxDest.isEmpty()) return;
+        const fs::path source = files_.resolve(form_.dxSource.text(), patience());
+        const fs::path destination = files_.resolve(form_.dxDest.text(), patience());
+        note(compareFolders(source, destination));
+    }
+
+    void note(std::optional<PathFinding> finding) {
+        if (finding) found_.push_back(*finding);
+    }
+
+    [[nodiscard]] std::chrono::milliseconds patience() const {
+        const auto left = std::chrono::ceil<std::chrono::milliseconds>(end_ - std::chrono::steady_clock::now());
+        return std::max(left, std::chrono::milliseconds{0});
+    }
+
+    const FormModel& form_;
+    const FileSystem& files_;
+    const std::chrono::steady_clock::time_point end_;
+    std::vector<PathFinding> found_;
+};
+
+}  // namespace
+
+bool HasDestination(const FormModel& form) {
+    return selectedAction(form) != Action::remove;
+}
+
+void ApplyDestinationPath(FormModel& form) {
+    SetAllApply(form, HasDestination(form), form.lblDest, form.dxDest);
+}
+
+void ApplyEditPaths(FormModel& form) {
+    const bool typing = form.chkEditPaths.isSet();
+    for (EditorControl* field : {&form.dxSource, &form.dxDest, &form.dxMonitorPath})
+        field->ReadOnly = !typing;
+}
+
+void RefreshPathTexts(FormModel& form) {
+    for (EditorControl* field : {&form.dxSource, &form.dxDest, &form.dxMonitorPath})
+        field->ToolTipText = field->text();
+}
+
+std::optional<PathFinding> CheckPaths(const FormModel& form, const FileSystem& files) {
+    return PathCheck(form, files).run();
+}
+
+}  // namespace kestedit

@@ -1,0 +1,79 @@
+#include "editor/rules/schedule.h"
+
+#include "editor/NodeImages.h"
+#include "editor/rules/applicability.h"
+#include "editor/rules/pageMarks.h"
+#include "editor/rules/paths.h"
+
+namespace kestedit {
+
+namespace {
+
+// Members of optIntervall, optIntTime and optMonitorPath.
+constexpr std::size_t atInterval = 0;
+constexpr std::size_t atTime = 1;
+constexpr std::size_t onChange = 2;
+constexpr std::size_t weekly = 1;
+constexpr std::size_t monthly = 2;
+constexpr std::size_t onDate = 3;
+constexpr std::size_t watchDestination = 1;
+constexpr std::size_t watchOther = 2;
+
+bool isIntervalZero(const FormModel& form) {
+    return form.dxDays.number() == 0 && form.dxHours.number() == 0 && form.dxMinutes.number() == 0;
+}
+
+/// A job without a date runs today, as it is saved; one without a time has passed when its day has.
+bool hasPassed(const FormModel& form, const LocalTime& now) {
+    const Date date = form.dxDate.date().value_or(now.date);
+    const auto time = form.dxDateTime.time();
+    return date < now.date || (date == now.date && time && *time < now.time);
+}
+
+}  // namespace
+
+void ApplyIntervall(FormModel& form) {
+    SetAllApply(form, form.optIntervall[atInterval].isSet(), form.dxDays, form.lblDays, form.dxHours, form.lblHours,
+                form.dxMinutes, form.lblMinutes);
+    SetAllApply(form, form.optIntervall[atTime].isSet(), form.optIntTime);
+    ApplyRunTime(form);
+    SetAllApply(form, form.optIntervall[onChange].isSet(), form.lblRTMon, form.lblMonDelay, form.dxMonDelay,
+                form.lblWatchWhat, form.dxMonWatch, form.chkMonSubFolder);
+    ApplyMonitorPath(form);
+    SetNodeImage(form, Page::monitoring, ChoiceMark(ChangesSchedule(form)));
+}
+
+void ApplyIntTime(FormModel& form) {
+    ApplyRunTime(form);
+}
+
+void ApplyRunTime(FormModel& form) {
+    const bool timed = form.optIntervall[atTime].isSet();
+    SetAllApply(form, timed, form.lblDateTime, form.dxDateTime);
+    SetApplies(form, form.dxIntWeekDay, timed && form.optIntTime[weekly].isSet());
+    SetApplies(form, form.dxIntMonthDay, timed && form.optIntTime[monthly].isSet());
+    SetAllApply(form, timed && form.optIntTime[onDate].isSet(), form.lblDate, form.dxDate);
+}
+
+void ApplyMonitorPath(FormModel& form) {
+    const bool watching = form.optIntervall[onChange].isSet();
+    for (EditorControl& member : form.optMonitorPath) {
+        const bool exists = member.Member != static_cast<int>(watchDestination) || HasDestination(form);
+        SetApplies(form, member, watching && exists);
+    }
+    SetApplies(form, form.dxMonitorPath, watching && form.optMonitorPath[watchOther].isSet());
+}
+
+bool ChangesSchedule(const FormModel& form) {
+    return form.optIntervall[atTime].isSet() || form.optIntervall[onChange].isSet();
+}
+
+std::optional<ScheduleFinding> CheckSchedule(const FormModel& form, const LocalTime& now) {
+    if (form.optIntervall[atTime].isSet() && form.optIntTime[onDate].isSet() && hasPassed(form, now)) {
+        return ScheduleFinding::datePassed;
+    }
+    if (form.optIntervall[atInterval].isSet() && isIntervalZero(form)) return ScheduleFinding::intervalZero;
+    return std::nullopt;
+}
+
+}  // namespace kestedit

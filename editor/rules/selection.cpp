@@ -1,0 +1,93 @@
+#include "editor/rules/selection.h"
+
+#include "editor/NodeImages.h"
+#include "editor/rules/applicability.h"
+#include "editor/rules/compression.h"
+#include "editor/rules/existing.h"
+#include "editor/rules/pageMarks.h"
+
+namespace kestedit {
+
+namespace {
+
+// Positions in FormModel::TextCatalogue: a pattern field names the language of its pattern.
+constexpr std::size_t fileWildcards = 33;
+constexpr std::size_t folderWildcards = 34;
+constexpr std::size_t fileRegEx = 35;
+constexpr std::size_t folderRegEx = 36;
+
+/// Whether a member other than 0, "everything", is chosen. A group without a choice takes everything.
+bool restricts(const ControlArray<3>& group) {
+    return group.selected().value_or(0) != 0;
+}
+
+}  // namespace
+
+void ApplySubFolder(FormModel& form) {
+    const bool subfolders = form.chkSubFolder.isSet();
+    SetAllApply(form, subfolders, form.lblFolderTitle, form.optFolderMatch);
+    SetAllApply(form, subfolders, form.lblNoScans, form.chkNoHiddenFolder, form.chkNoSystemFolder,
+                form.chkNoReadOnlyFolder);
+    form.chkDelEFol.Enabled = subfolders;  // always this one: its Visible follows the action
+    ApplyFolderMatch(form);
+    ApplyZipAll(form);
+    ApplyFolderStructure(form);
+    ApplyExistingFilesPage(form);
+}
+
+void ApplyFolderMatch(FormModel& form) {
+    const bool pattern = form.chkSubFolder.isSet() && restricts(form.optFolderMatch);
+    SetAllApply(form, pattern, form.lblFolder, form.dxFolderMatch, form.chkRegExFolder);
+    SetNodeImage(form, Page::folders, ChoiceMark(NarrowsFolders(form)));
+}
+
+void ApplyFileMatch(FormModel& form) {
+    SetAllApply(form, restricts(form.optFileMatch), form.lblFileName, form.dxFileName, form.chkRegExFile);
+    SetNodeImage(form, Page::files, ChoiceMark(NarrowsFiles(form)));
+}
+
+void ApplyExt(FormModel& form) {
+    SetAllApply(form, restricts(form.optExt), form.lblExt, form.dxExt);
+    SetNodeImage(form, Page::extensions, ChoiceMark(NarrowsExtensions(form)));
+}
+
+void ApplySize(FormModel& form) {
+    SetAllApply(form, restricts(form.optSize), form.dxSize, form.lblSize);
+    SetNodeImage(form, Page::filesize, ChoiceMark(NarrowsSize(form)));
+}
+
+void ApplyRegExFile(FormModel& form) {
+    UpdateFileNameCaption(form);
+    if (form.chkRegExFile.isSet()) form.InvalidFileNameChars = false;
+}
+
+void ApplyRegExFolder(FormModel& form) {
+    UpdateFolderNameCaption(form);
+    if (form.chkRegExFolder.isSet()) form.InvalidFolderMatchChars = false;
+}
+
+void UpdateFileNameCaption(FormModel& form) {
+    form.lblFileName.Caption = form.TextCatalogue.at(form.chkRegExFile.isSet() ? fileRegEx : fileWildcards);
+}
+
+void UpdateFolderNameCaption(FormModel& form) {
+    form.lblFolder.Caption = form.TextCatalogue.at(form.chkRegExFolder.isSet() ? folderRegEx : folderWildcards);
+}
+
+bool NarrowsFolders(const FormModel& form) {
+    return form.chkSubFolder.isSet();  // all else on the page chooses among subfolders
+}
+
+bool NarrowsFiles(const FormModel& form) {
+    return restricts(form.optFileMatch);
+}
+
+bool NarrowsExtensions(const FormModel& form) {
+    return restricts(form.optExt);
+}
+
+bool NarrowsSize(const FormModel& form) {
+    return restricts(form.optSize);
+}
+
+}  // namespace kestedit

@@ -1,0 +1,14 @@
+// Synchronising two folders.
+#pragma once
+
+#include "editor/FormModel.h"
+
+namespace kestedit {
+
+/// Change rule of optSyncExist: 0 leave existing files, 1 overwrite, 2 replace under a condition. The whole
+/// group decides, whichever `item` changed.
+void ApplySyncExist(FormModel& form, int item);
+/// Change rule of optSyncStart: 0 source to destination, 1 both ways; deleting applies one way only.
+void ApplySyncStart(FormModel& form);
+
+}  // namespace kestedit
