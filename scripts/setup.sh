@@ -1,0 +1,58 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that a job needs and this machine lacks; does nothing when all are there.
+#   scripts/setup.sh [build|bench|lint]...     (default: build)
+set -euo pipefail
+
+build=(
+    cmake
+    ninja-build
+    g++
+    ccache
+    libcli11-dev
+    libgtest-dev
+)
+bench=(
+    libbenchmark-dev
+)
+lint=(
+    git
+    clang-format
+    clang-tidy
+)
+
+fail() {
+    echo "setup.sh: $*" >&2
+    exit 1
+}
+
+missing=()
+for group in "${@:-build}"; do
+    [[ $group == build || $group == bench || $group == lint ]] || fail "unknown group '$group': build, bench or lint"
+    declare -n packages=$group
+    for package in "${packages[@]}"; do
+        # A package that was removed but not purged is still known, with another status.
+        status=$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null) || status=unknown
+        [[ $status == installed ]] || missing+=("$package")
+    done
+done
+((${#missing[@]})) || exit 0
+
+command -v apt-get >/dev/null || fail "no apt-get here to install ${missing[*]}"
+asRoot=(env DEBIAN_FRONTEND=noninteractive)
+if ((EUID)); then
+    command -v sudo >/dev/null || fail "installing ${missing[*]} takes root or sudo"
+    asRoot=(sudo "${asRoot[@]}")
+fi
+
+log=$(mktemp)
+trap 'rm -f "$log"' EXIT
+
+# apt-get fills a screen: only its first error, if any, is worth one.
+runApt() {
+    "${asRoot[@]}" apt-get -q -y "$@" >"$log" 2>&1 </dev/null ||
+        fail "cannot install ${missing[*]}: $(grep -m 1 '^E: ' "$log" || tail -n 1 "$log")"
+}
+
+echo "setup.sh: installing ${missing[*]}" >&2
+runApt update
+runApt install --no-install-recommends "${missing[@]}"
