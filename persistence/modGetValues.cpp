@@ -1,0 +1,227 @@
+#include "persistence/modGetValues.h"
+
+#include <algorithm>
+#include <charconv>
+#include <optional>
+#include <string_view>
+#include <utility>
+
+#include "persistence/DurationMinutes.h"
+#include "persistence/JobFormat.h"
+
+namespace kestedit {
+
+namespace {
+
+// What the values are read from, and where they go.
+struct Loading {
+    FormModel& form;
+    const JobRecord& job;
+    const DateFormat& dates;
+    Date today;
+
+    [[nodiscard]] EditorControl& control(const JobRow& row) const { return form.at(row.control); }
+    [[nodiscard]] std::string field(const JobRow& row) const { return job.field(row.key).value_or(std::string{}); }
+};
+
+// A whole decimal number within the range and nothing else.
+std::optional<std::int64_t> numberIn(std::string_view text) {
+    std::int64_t number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error != std::errc{} || end != text.data() + text.size()) return std::nullopt;
+    return number;
+}
+
+void loadState(EditorControl& check, std::string_view text) {
+    const std::int64_t state = numberIn(text).value_or(0);
+    check.State = state == 1 || state == 2 ? static_cast<int>(state) : 0;
+}
+
+// An index that the group does not have selects member 0.
+void loadIndex(FormModel& form, std::string_view base, std::string_view text) {
+    const auto group = form.group(base);
+    const std::int64_t index = numberIn(text).value_or(0);
+    const bool known = index >= 0 && std::cmp_less(index, group.size());
+    for (EditorControl* member : group)
+        member->State = member->Member == (known ? index : 0) ? 1 : 0;
+}
+
+void deselect(FormModel& form, std::string_view base) {
+    for (EditorControl* member : form.group(base))
+        member->State = 0;
+}
+
+void loadOptionalIndex(const Loading& load, const JobRow& row) {
+    const std::optional<std::string> text = load.job.field(row.key);
+    if (!text) return deselect(load.form, row.control);
+    loadIndex(load.form, row.control, *text);
+}
+
+void loadPath(const Loading& load, const JobRow& row) {
+    EditorControl& editor = load.control(row);
+    editor.ToolTipText = load.field(row);
+    editor.EditValue = editor.ToolTipText;
+}
+
+void loadName(const Loading& load, const JobRow& row) {
+    load.form.LoadedName = load.field(row);
+    load.form.dxName.EditValue = load.form.LoadedName;
+}
+
+// An empty value is an editor that was empty when the job was saved; what is no number leaves the design-time value.
+void loadNumber(const Loading& load, const JobRow& row) {
+    const std::optional<std::string> text = load.job.field(row.key);
+    if (!text) return;
+    if (const auto number = numberIn(*text)) {
+        load.control(row).EditValue = *number;
+    } else if (text->empty()) {
+        load.control(row).EditValue = std::monostate{};
+    }
+}
+
+void loadDate(const Loading& load, const JobRow& row, Date replacement) {
+    const std::string text = load.field(row);
+    const std::optional<Date> date = load.dates.parse(text);
+    if (!date && !text.empty()) load.form.DateFormatChanged = true;
+    load.control(row).EditValue = date.value_or(replacement);
+}
+
+// `position` counts from 0; one that the list does not have picks nothing.
+void pick(EditorControl& list, std::int64_t position) {
+    const bool known = position >= 0 && std::cmp_less(position, list.Items.size());
+    list.EditValue = known ? list.Items[static_cast<std::size_t>(position)] : std::string{};
+}
+
+void pickFromOne(const Loading& load, const JobRow& row) {
+    if (const auto position = numberIn(load.field(row)); position && *position >= 1) {
+        pick(load.control(row), *position - 1);
+    }
+}
+
+void loadCompressionLevel(const Loading& load, const JobRow& row) {
+    const auto level = numberIn(load.field(row));
+    if (!level || !std::in_range<int>(*level)) return;
+    load.form.CompressionLevel = static_cast<int>(*level);
+    pickFromOne(load, row);
+}
+
+void loadDuration(const Loading& load, const JobRow& row, const DurationEditors& editors) {
+    if (const auto total = numberIn(load.field(row))) showMinutes(editors, *total);
+}
+
+// A text that is no time stays in the editor, so that a save gives it back.
+void loadTime(EditorControl& editor, std::string text) {
+    if (const auto time = parseTime(text)) {
+        editor.EditValue = *time;
+    } else if (text.empty()) {
+        editor.EditValue = std::monostate{};
+    } else {
+        editor.EditValue = std::move(text);
+    }
+}
+
+std::string withLineBreaks(std::string_view line) {
+    std::string lines;
+    for (const char c : line) {
+        if (c == '^') {
+            lines += "\r\n";
+        } else {
+            lines += c;
+        }
+    }
+    return lines;
+}
+
+void loadRow(const Loading& load, const JobRow& row) {
+    using enum ValueForm;
+    FormModel& form = load.form;
+    // clang-format off
+    switch (row.form) {
+        case state:
+        case subfolders:
+        case folderStructure:  return loadState(load.control(row), load.field(row));
+        case index:
+        case extensionIndex:
+        case sizeIndex:        return loadIndex(form, row.control, load.field(row));
+        case optionalIndex:    return loadOptionalIndex(load, row);
+        case text:             load.control(row).EditValue = load.field(row); return;
+        case path:             return loadPath(load, row);
+        case number:
+        case freeSpace:        return loadNumber(load, row);
+        case date:
+        case intervalDate:     return loadDate(load, row, load.today);
+        case startDate:        return loadDate(load, row, addDays(load.today, -1));
+        case listPosition:     return pick(load.control(row), numberIn(load.field(row)).value_or(0));
+        case jobName:          return loadName(load, row);
+        case renameScheme:
+        case weekDay:          return pickFromOne(load, row);
+        case compressionLevel: return loadCompressionLevel(load, row);
+        case ageMinutes:       return loadDuration(load, row, fileAge(form));
+        case interval:         return loadDuration(load, row, runInterval(form));
+        case timeOfDay:        return loadTime(form.dxDateTime, load.field(row));
+        case actionIndex:    // GetAction has loaded it
+        case comment:        // comes apart from the record, cut to the size of a text
+        case writtenOnly:
+        case zero:
+        case empty:
+        case nodeIcon:
+        case intervalCopy:
+        case intervalState:    return;
+    }
+    // clang-format on
+}
+
+const JobRow& actionRow() {
+    const auto rows = jobFormat();
+    return *std::ranges::find(rows, ValueForm::actionIndex, &JobRow::form);
+}
+
+}  // namespace
+
+void GetAction(FormModel& form, const JobRecord& job) {
+    const JobRow& row = actionRow();
+    loadIndex(form, row.control, job.field(row.key).value_or("0"));
+}
+
+void GetValues(FormModel& form, const JobRecord& job, std::string comment, const DateFormat& dates, Date today) {
+    const Loading load{form, job, dates, today};
+    for (const JobRow& row : jobFormat())
+        loadRow(load, row);
+    form.dxComment.EditValue = withLineBreaks(comment);
+}
+
+Notice DateChangeNotice(const modIniHandler& texts) {
+    const auto text = [&](std::string_view key, std::string_view german) {
+        return texts.ReadLanguageText("DateChangeInfo", key, german, textSize);
+    };
+    return {
+        text("t4", "Information"),
+        text("t0", "Das Datumsformat des Systems scheint geändert worden zu sein.") + "\r\n\r\n" +
+            text("t1",
+                 "Wenn Sie die vorherigen Einstellungen behalten möchten, dann brechen Sie diese Aktion ab, schliessen "
+                 "das Programm und ändern Sie in der Systemsteuerung das Datum auf das vorherige Format.") +
+            " " + text("t2", "Wenn Sie in diesem Fenster weiterarbeiten werden alle Datumsangaben zurückgesetzt.") +
+            " " + text("t3", "Überprüfen Sie dann bitte die Datumsangaben für die Überwachung.")};
+}
+
+void SetNewJobDefaults(FormModel& form, const LocalTime& now) {
+    const auto selectFirst = [](auto&... groups) { (groups.select(0), ...); };
+    selectFirst(form.optAction, form.optIntervall, form.optMonitorPath, form.optIntTime, form.optFolderMatch,
+                form.optFileMatch, form.optExt, form.optSize, form.optAge, form.optFileAgeType, form.optFileDate,
+                form.optAttrSetSource, form.optAttrSetDest, form.optExist, form.optUnZip, form.optRenameSelect,
+                form.optExtFileTime);
+    form.fraSync.Visible = false;
+    form.chkOnlyCompare.Visible = true;
+    form.chkZipIntStruct.State = 1;
+    form.chkDestKeepZStruct.State = 1;
+    SetPresentDates(form, now);
+}
+
+void SetPresentDates(FormModel& form, const LocalTime& now) {
+    for (EditorControl* date : {&form.dxDate, &form.dxDateFrom, &form.dxDateTo, &form.dxFileDate}) {
+        date->EditValue = now.date;
+    }
+    form.dxDateTime.EditValue = now.time;
+}
+
+}  // namespace kestedit

@@ -1,0 +1,199 @@
+#include "persistence/modSaveValues.h"
+
+#include <algorithm>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "persistence/DurationMinutes.h"
+#include "persistence/JobFormat.h"
+#include "platform/Text.h"
+
+namespace kestedit {
+
+namespace {
+
+constexpr std::int64_t leastFreeSpace = 2000;
+constexpr std::size_t synchroniseAction = 5;
+constexpr int actionPage = 1;
+
+// Entries of the text catalogue that two pick lists take.
+constexpr std::size_t levelEntries = 6;
+constexpr std::size_t levelCount = 4;
+constexpr std::size_t schemeEntries = 10;
+constexpr std::size_t schemeCount = 3;
+
+// Where the values come from.
+struct Source {
+    FormModel& form;
+    const DateFormat& dates;
+    const LocalTime& now;
+};
+
+// Readers of the file drop blanks and tabs at the ends of a value and one pair of quotes round it, so a text that has
+// these of its own gets a pair to lose. Line breaks and NUL count as the blanks that they become in the file.
+std::string guarded(std::string text) {
+    constexpr std::string_view lostAtEnds{" \t\r\n\0", 5};
+    constexpr std::string_view quotes{"\"'"};
+    if (text.empty()) return text;
+    const char first = text.front();
+    const char last = text.back();
+    const bool trimmed = lostAtEnds.find(first) != lostAtEnds.npos || lostAtEnds.find(last) != lostAtEnds.npos;
+    const bool unquoted = text.size() > 1 && first == last && quotes.find(first) != quotes.npos;
+    return trimmed || unquoted ? '"' + text + '"' : text;
+}
+
+std::string stateText(const EditorControl& control) {
+    return std::to_string(control.State);
+}
+
+std::optional<std::string> indexText(const FormModel& form, std::string_view group) {
+    for (const EditorControl* member : form.group(group)) {
+        if (member->isSet()) return std::to_string(member->Member);
+    }
+    return std::nullopt;
+}
+
+std::string numberText(const EditorControl& control) {
+    const auto* held = std::get_if<std::int64_t>(&control.EditValue);
+    return held ? std::to_string(*held) : std::string{};
+}
+
+std::string dateText(const Source& from, const EditorControl& control) {
+    const std::optional<Date> date = control.date();
+    return date ? from.dates.text(*date) : std::string{};
+}
+
+std::optional<int> positionOf(std::span<const std::string> entries, std::string_view text) {
+    const auto found = std::ranges::find(entries, text);
+    if (found == entries.end()) return std::nullopt;
+    return static_cast<int>(found - entries.begin());
+}
+
+std::string subfoldersText(FormModel& form) {
+    if (form.chkSubFolder.State == 0) form.chkDelEFol.State = 0;
+    return stateText(form.chkSubFolder);
+}
+
+std::string freeSpaceText(EditorControl& space) {
+    if (space.number() < leastFreeSpace) space.EditValue = leastFreeSpace;
+    return numberText(space);
+}
+
+std::optional<std::string> renameSchemeText(const FormModel& form) {
+    const auto entries = std::span{form.TextCatalogue}.subspan(schemeEntries, schemeCount);
+    const auto position = positionOf(entries, form.dxPickRenamer.text());
+    return position ? std::optional{std::to_string(*position + 1)} : std::nullopt;
+}
+
+// The level that the job has goes first: in a language file without these texts all entries are equal. It also stands
+// when the list does not show one of the four, so that a level of another editor survives (SaveTest.CompressionLevel).
+int compressionLevelOf(const FormModel& form) {
+    const auto entries = std::span{form.TextCatalogue}.subspan(levelEntries, levelCount);
+    const std::string shown = form.dxZipGrade.text();
+    const int level = form.CompressionLevel;
+    if (level >= 1 && level <= static_cast<int>(levelCount) && entries[static_cast<std::size_t>(level - 1)] == shown) {
+        return level;
+    }
+    const auto position = positionOf(entries, shown);
+    return position ? *position + 1 : level;
+}
+
+std::string withCarets(std::string_view lines) {
+    constexpr std::string_view lineBreak = "\r\n";
+    std::string line;
+    line.reserve(lines.size());
+    for (auto at = lines.find(lineBreak); at != lines.npos; at = lines.find(lineBreak)) {
+        line.append(lines.substr(0, at)).append("^");
+        lines.remove_prefix(at + lineBreak.size());
+    }
+    return line.append(lines);
+}
+
+std::string actionNodeImage(const FormModel& form) {
+    const auto position = form.PageNodeIndex.find(actionPage);
+    const auto& nodes = form.Navigation.Nodes;
+    if (position == form.PageNodeIndex.end() || position->second < 0) return {};
+    const auto node = static_cast<std::size_t>(position->second);
+    return node < nodes.size() ? nodes[node].Image : std::string{};
+}
+
+std::string minutesText(const DurationEditors& editors) {
+    normalise(editors);
+    return std::to_string(totalMinutes(editors));
+}
+
+std::string runTimeText(EditorControl& editor) {
+    if (editor.text() == "1") editor.EditValue = TimeOfDay{0};
+    const std::optional<TimeOfDay> time = editor.time();
+    return time ? timeText(*time) : guarded(editor.text());
+}
+
+// Tells the runner that today's run has been missed, by the day of the last one.
+std::optional<std::string> intervalStateText(const Source& from) {
+    const std::optional<TimeOfDay> runTime = from.form.dxDateTime.time();
+    if (!runTime || from.now.time <= *runTime) return std::nullopt;
+    return from.dates.text(addDays(from.now.date, -1));
+}
+
+// Nothing for a row that is left out of the file.
+std::optional<std::string> valueOf(const Source& from, const JobRow& row) {
+    using enum ValueForm;
+    FormModel& form = from.form;
+    // clang-format off
+    switch (row.form) {
+        case state:
+        case writtenOnly:      return stateText(form.at(row.control));
+        case index:
+        case actionIndex:      return indexText(form, row.control).value_or("0");
+        case optionalIndex:    return indexText(form, row.control);
+        case text:
+        case path:             return guarded(form.at(row.control).text());
+        case number:           return numberText(form.at(row.control));
+        case date:
+        case startDate:        return dateText(from, form.at(row.control));
+        case listPosition:     return std::to_string(form.at(row.control).itemIndex().value_or(-1));
+        case jobName:          return guarded(std::string{trimBlanks(form.dxName.text())});
+        case subfolders:       return subfoldersText(form);
+        case folderStructure:  return form.optAction[synchroniseAction].isSet() ? "1" : stateText(form.chkFStruct);
+        case freeSpace:        return freeSpaceText(form.dxFreeSpace);
+        case zero:             return "0";
+        case empty:            return "";
+        case extensionIndex:   return form.dxExt.isEmpty() ? "0" : indexText(form, row.control).value_or("0");
+        case sizeIndex:        return form.dxSize.isEmpty() ? "0" : indexText(form, row.control).value_or("0");
+        case renameScheme:     return renameSchemeText(form);
+        case comment:          return guarded(withCarets(form.dxComment.text()));
+        case nodeIcon:         return guarded(actionNodeImage(form));
+        case compressionLevel: return std::to_string(compressionLevelOf(form));
+        case ageMinutes:       return minutesText(fileAge(form));
+        case interval:
+        case intervalCopy:     return minutesText(runInterval(form));
+        case intervalDate:     return from.dates.text(form.dxDate.date().value_or(from.now.date));
+        case timeOfDay:        return runTimeText(form.dxDateTime);
+        case intervalState:    return intervalStateText(from);
+        case weekDay:          return std::to_string(form.dxIntWeekDay.itemIndex().value_or(-1) + 1);
+    }
+    // clang-format on
+    return std::nullopt;
+}
+
+bool isNote(ValueForm form) {
+    return form == ValueForm::comment || form == ValueForm::nodeIcon;
+}
+
+}  // namespace
+
+std::vector<JobLine> SaveValues(FormModel& form, const DateFormat& dates, const LocalTime& now, bool skipComment) {
+    const Source from{form, dates, now};
+    std::vector<JobLine> lines;
+    lines.reserve(jobFormat().size() + 1);
+    for (const JobRow& row : jobFormat()) {
+        if (skipComment && isNote(row.form)) continue;
+        if (auto value = valueOf(from, row)) lines.push_back({jobSection, row.key, std::move(*value)});
+    }
+    lines.push_back({infoSection, "ProgVersion", std::string{programVersion()}});
+    return lines;
+}
+
+}  // namespace kestedit
