@@ -2,7 +2,7 @@
 """Draw the editor's pictures: tables of shapes in, small SVG files in two palettes out.
 
     scripts/make-icons.py            write desktop/icons/{light,dark}/*.svg, kestedit.svg and icons.qrc
-    scripts/make-icons.py --check    fail, naming the files, when the committed ones differ from the tables
+    scripts/make-icons.py --check    fail, naming the files, when they are not what the tables draw
 
 A drawing is a list of parts (role, shape). A role says how a part is painted (ROLES), a shape is path data on the
 drawing's grid. The rules of the family are in desktop/icons/README.md.
@@ -14,12 +14,12 @@ from pathlib import Path
 ICONS = Path(__file__).resolve().parent.parent / "desktop" / "icons"
 
 # One neutral family and six action colours, each with a pale companion for surfaces.
-# All keep about 4.5:1 against their own desktop, so a drawing survives without its colour.
+# Each keeps 4.5:1 against its own desktop and 3:1 on a selected row, so a drawing survives without its colour.
 PALETTES = {
     #          light desktop  dark desktop
     "ink":    {"light": "#36414d", "dark": "#dfe4ea"},  # contours, the eye
     "paper":  {"light": "#ffffff", "dark": "#262b31"},  # blank surfaces, marks on solid shapes, halos
-    "muted":  {"light": "#6b7680", "dark": "#98a2ad"},  # whatever is switched off
+    "muted":  {"light": "#5f6a74", "dark": "#a6b0ba"},  # whatever is switched off
     "blue":   {"light": "#1f66b5", "dark": "#7db7f2"},  "blue-pale":   {"light": "#dce9f7", "dark": "#24394e"},
     "teal":   {"light": "#0b7671", "dark": "#5cc8bf"},  "teal-pale":   {"light": "#d7eeec", "dark": "#1f403e"},
     "red":    {"light": "#b3362e", "dark": "#f28b82"},  "red-pale":    {"light": "#f8e0de", "dark": "#4a2c2a"},
@@ -173,18 +173,18 @@ ACTIONS = {
         ("solid", "M32 3v22l13-11zM16 23v22l-13-11z")]),
 }
 
-# The program itself: a job sheet and the pencil that edits it, on a tile that stands on either desktop. Every edge that
-# matters at 16 px lies on a multiple of eight. Path data, fill, stroke, stroke width.
+# The program itself: a job sheet and the pencil that edits it, on a tile that stands on either desktop. Sheet and
+# rows keep to multiples of eight, which are whole pixels at 16 px. Path data, fill, stroke, stroke width.
 PROGRAM = [
     (box(0, 0, 128, 128, 24), "#0b7671", "none", 0),
     (sheet(24, 16, 64, 96, 8, 24), "#ffffff", "none", 0),
     ("M64 16l24 24h-24z", "#9fd0cc", "none", 0),
-    ("M32 48h16v16h-16zM32 80h16v16h-16z", "#0b7671", "none", 0),
-    ("M56 56h24M56 88h8", "none", "#36414d", 8),
-    ("M63 87L97 53L115 71L81 105L58 110z", "#0b7671", "#0b7671", 12),
-    ("M63 87L97 53L115 71L81 105z", "#f2bd5c", "none", 0),
-    ("M63 87L81 105L58 110z", "#f6e9d0", "none", 0),
-    ("M60 102L66 108L58 110z", "#36414d", "#36414d", 4),
+    ("M32 48h8v8h-8zM32 64h8v8h-8zM32 80h8v8h-8z", "#0b7671", "none", 0),
+    ("M48 52h32M48 68h20M48 84h8", "none", "#36414d", 8),
+    ("M69 77L100 46L118 64L87 95L64 100z", "#0b7671", "#0b7671", 12),
+    ("M69 77L100 46L118 64L87 95z", "#f2bd5c", "none", 0),
+    ("M69 77L87 95L64 100z", "#f6e9d0", "none", 0),
+    ("M66 92L72 98L64 100z", "#36414d", "#36414d", 4),
 ]
 
 
@@ -236,7 +236,8 @@ def files():
         for number, (name, preview) in enumerate(NODES):
             made[f"{palette}/node-{number}.svg"] = drawing(NODE, name, NODE_ACTIONS | NODE_MARKS, palette, preview)
     listed = "".join(f"    <file>{name}</file>\n" for name in made)
-    made["icons.qrc"] = f'<RCC>\n  <qresource prefix="/icons">\n{listed}  </qresource>\n</RCC>\n'
+    made["icons.qrc"] = ("<!-- Written by scripts/make-icons.py. -->\n"
+                         f'<RCC>\n  <qresource prefix="/icons">\n{listed}  </qresource>\n</RCC>\n')
     return made
 
 
