@@ -45,9 +45,9 @@ ROLES = {
     "badge":   ("ink", "none", 0, False),      # the eye and its pupil
 }
 
-# Grid size, line width, corner radius, dash pattern of previews.
-NODE = {"size": 16, "line": 1, "radius": 1, "dash": "2 1"}
-ACTION = {"size": 48, "line": 2, "radius": 3, "dash": "4 3"}
+# Grid size, line width, dash pattern of previews. Corners are rounded by 1 on the node grid and 3 on the large one.
+NODE = {"size": 16, "line": 1, "dash": "2 1"}
+ACTION = {"size": 48, "line": 2, "dash": "4 3"}
 
 
 def sheet(x, y, w, h, r, ear):
