@@ -1,16 +1,11 @@
 #include "platform/FileSystem.h"
 
-#include <atomic>
 #include <cerrno>
-#include <future>
-#include <memory>
-#include <optional>
 #include <sys/stat.h>
 #include <system_error>
-#include <thread>
-#include <type_traits>
 #include <unistd.h>
-#include <utility>
+
+#include "platform/Patience.h"
 
 namespace kestedit {
 
@@ -27,35 +22,6 @@ fs::file_status statusOf(const fs::path& path, const char* operation) {
 
 void check(int result, const char* operation, const fs::path& path) {
     if (result != 0) throw fs::filesystem_error(operation, path, std::error_code(errno, std::system_category()));
-}
-
-/// Looks that have not come back yet. A mount that never answers must not cost a thread for every question.
-std::atomic<int> looksUnderWay{0};
-constexpr int maximumLooks = 8;
-
-/// What `look` returns, or nothing when that takes longer than `patience`. `look` owns all that it uses, because it may
-/// run on after this call has given up.
-template <class Look>
-std::optional<std::invoke_result_t<Look>> answerWithin(std::chrono::milliseconds patience, Look look) {
-    if (looksUnderWay.fetch_add(1) >= maximumLooks) {
-        --looksUnderWay;
-        return std::nullopt;
-    }
-    using Answer = std::invoke_result_t<Look>;
-    std::packaged_task<Answer()> task([look = std::move(look)] {
-        Answer answer = look();
-        --looksUnderWay;
-        return answer;
-    });
-    std::future<Answer> answer = task.get_future();
-    try {
-        std::thread(std::move(task)).detach();
-    } catch (const std::system_error&) {
-        --looksUnderWay;
-        return std::nullopt;
-    }
-    if (answer.wait_for(patience) != std::future_status::ready) return std::nullopt;
-    return answer.get();
 }
 
 FolderStatus lookAtFolder(const fs::path& folder) {

@@ -79,7 +79,7 @@ void IniText::indexSections() {
         const std::size_t end = lineEndFrom(bracket);
         if (!sections_.empty()) sections_.back().bodyEnd = offset(bracket);
         std::string_view name = text.substr(bracket + 1, end - bracket - 1);
-        name = trimLine(name.substr(0, name.find(']')));
+        name = trimLine(name.substr(0, name.find_first_of("]\n")));
         const std::size_t nameBegin = name.empty() ? bracket : static_cast<std::size_t>(name.data() - text.data());
         sections_.push_back(
             {offset(nameBegin), offset(nameBegin + name.size()), offset(end), offset(text.size()), nullptr});

@@ -1,0 +1,129 @@
+#include <chrono>
+#include <cstdlib>
+#include <future>
+#include <gtest/gtest.h>
+#include <string>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
+
+#include "platform/FileSystem.h"
+#include "platform/Patience.h"
+#include "platform/UserSettings.h"
+#include "tests/platform/TemporaryFolder.h"
+
+namespace kestedit::test {
+namespace {
+
+namespace fs = std::filesystem;
+using namespace std::chrono_literals;
+
+class Files : public testing::Test {
+  protected:
+    TemporaryFolder folder_;
+    LocalFileSystem files_;
+};
+
+TEST_F(Files, tellsFilesFromFolders) {
+    const fs::path file = folder_.file("file", "");
+    EXPECT_TRUE(files_.FileExists(file));
+    EXPECT_FALSE(files_.FolderExists(file));
+    EXPECT_FALSE(files_.FileExists(folder_.path()));
+    EXPECT_TRUE(files_.FolderExists(folder_.path()));
+    EXPECT_FALSE(files_.FileExists(folder_.path() / "none" / "file"));
+    EXPECT_FALSE(files_.FileExists(file / "below"));
+    fs::create_symlink("loop", folder_.path() / "loop");
+    EXPECT_THROW(static_cast<void>(files_.FileExists(folder_.path() / "loop")), fs::filesystem_error);
+}
+
+TEST_F(Files, failuresNameOperationAndPath) {
+    files_.CreateFolder(folder_.path() / "a");
+    EXPECT_THROW(files_.CreateFolder(folder_.path() / "a"), fs::filesystem_error);
+    EXPECT_THROW(files_.CreateFolder(folder_.path() / "x" / "y"), fs::filesystem_error);
+    EXPECT_THROW(files_.DeleteFile(folder_.path() / "a"), fs::filesystem_error);
+    try {
+        files_.DeleteFile(folder_.path() / "none");
+        FAIL();
+    } catch (const fs::filesystem_error& error) {
+        EXPECT_EQ(error.what(), "filesystem error: delete file: No such file or directory [" +
+                                    (folder_.path() / "none").string() + "]");
+    }
+}
+
+TEST_F(Files, joinsAndTakesApartPaths) {
+    EXPECT_EQ(files_.BuildPath("/a", "b"), "/a/b");
+    EXPECT_EQ(files_.BuildPath("/a//", "/b"), "/a/b");
+    EXPECT_EQ(files_.BuildPath("/", "b"), "/b");
+    EXPECT_EQ(files_.BuildPath("", "b"), "b");
+    EXPECT_EQ(files_.GetFileName("/a/b.job"), "b.job");
+    EXPECT_EQ(files_.GetFileName("/a/b/"), "b");
+    EXPECT_EQ(files_.GetFileName("b"), "b");
+    EXPECT_EQ(files_.GetFileName("/"), "");
+}
+
+TEST_F(Files, inspectsFolders) {
+    const FolderStatus found = files_.inspectFolder(folder_.path(), 10s);
+    EXPECT_TRUE(found.answered && found.exists && found.readable && found.writable);
+    const FolderStatus file = files_.inspectFolder(folder_.file("file", ""), 10s);
+    EXPECT_TRUE(file.answered);
+    EXPECT_FALSE(file.exists);
+    fs::permissions(folder_.path(), fs::perms{0555});
+    EXPECT_EQ(files_.inspectFolder(folder_.path(), 10s).writable, ::geteuid() == 0);
+    fs::permissions(folder_.path(), fs::perms{0755});
+}
+
+TEST(Patience, anAnswerThatDoesNotComeCostsNoMoreThanThePatience) {
+    std::promise<void> wakeUp;
+    const std::shared_future<void> awake = wakeUp.get_future().share();
+    const auto sleeper = [awake] {
+        awake.wait();
+        return 1;
+    };
+    for (int i = 0; i < mostQuestions; ++i)
+        EXPECT_EQ(answerWithin(1ms, sleeper), std::nullopt);
+    EXPECT_EQ(answerWithin(10s, [] { return 2; }), std::nullopt) << "no more threads for a system that hangs";
+    EXPECT_FALSE(LocalFileSystem().inspectFolder("/", 10s).answered);
+    EXPECT_EQ(LocalFileSystem().resolve("/a/../b/", 10s), "/b");
+    wakeUp.set_value();
+    while (questionsUnderWay > 0)
+        std::this_thread::yield();
+    EXPECT_EQ(answerWithin(10s, [] { return 3; }), 3);
+}
+
+TEST_F(Files, twoSpellingsOfOneFolderResolveToOnePath) {
+    fs::create_directory(folder_.path() / "real");
+    fs::create_symlink("real", folder_.path() / "link");
+    const fs::path real = fs::canonical(folder_.path()) / "real";
+    EXPECT_EQ(files_.resolve(folder_.path() / "link" / ".." / "real" / "", 10s), real);
+    EXPECT_EQ(files_.resolve(folder_.path() / "link" / "new" / "." / "x", 10s), real / "new" / "x");
+    EXPECT_EQ(files_.resolve("", 10s), "");
+    EXPECT_EQ(files_.resolve("/", 10s), "/");
+    fs::create_symlink("loop", folder_.path() / "loop");
+    EXPECT_EQ(files_.resolve(folder_.path() / "loop" / "." / "x", 10s), folder_.path() / "loop" / "x");
+}
+
+TEST_F(Files, userSettingsCreateFolderAndFile) {
+    UserSettingsFile settings(folder_.path() / "a" / "b" / "user.ini");
+    EXPECT_EQ(settings.read("Options", "BGColor", "none"), "none");
+    EXPECT_FALSE(settings.write("Options", "BGColor", "\u20AC \u0416"));
+    EXPECT_EQ(settings.read("options", "bgcolor", "none"), "\u20AC \u0416");
+    folder_.file("file", "");
+    EXPECT_EQ(UserSettingsFile(folder_.path() / "file" / "b" / "user.ini").write("S", "k", "v"),
+              std::errc::not_a_directory);
+}
+
+TEST_F(Files, userFoldersFollowTheEnvironment) {
+    setenv("XDG_CONFIG_HOME", "/config", 1);
+    setenv("XDG_DATA_HOME", "relative", 1);
+    const char* before = std::getenv("HOME");
+    const std::string home = before == nullptr ? "" : before;
+    setenv("HOME", "/home/somebody", 1);
+    EXPECT_EQ(userFolders().config, "/config/kestedit");
+    EXPECT_EQ(userFolders().data, "/home/somebody/.local/share/kestedit");
+    setenv("HOME", home.c_str(), 1);
+    unsetenv("XDG_CONFIG_HOME");
+    unsetenv("XDG_DATA_HOME");
+}
+
+}  // namespace
+}  // namespace kestedit::test

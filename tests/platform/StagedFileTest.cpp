@@ -1,0 +1,187 @@
+#include <csignal>
+#include <gtest/gtest.h>
+#include <string>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+#include <utility>
+#include <vector>
+
+#include "platform/StagedFile.h"
+#include "tests/platform/TemporaryFolder.h"
+
+namespace kestedit::test {
+namespace {
+
+namespace fs = std::filesystem;
+using Names = std::vector<std::string>;
+using enum StagedFile::Permissions;
+
+class StagedFiles : public testing::Test {
+  protected:
+    static fs::perms permissionsOf(const fs::path& file) { return fs::status(file).permissions(); }
+
+    TemporaryFolder folder_;
+    fs::path target_ = folder_.path() / "job";
+};
+
+TEST_F(StagedFiles, theOldFileStandsUntilCommitAndStaysWithoutOne) {
+    folder_.file("job", "old");
+    {
+        const StagedFile staged(target_, "new", keep);
+        EXPECT_EQ(bytesOf(target_), "old");
+        EXPECT_EQ(folder_.names().size(), 2U);
+    }
+    EXPECT_EQ(folder_.names(), Names{"job"});
+    StagedFile first(target_, "new", keep);
+    StagedFile second(std::move(first));
+    first = StagedFile(target_, "dropped", keep);
+    first = std::move(second);
+    first.commit();
+    EXPECT_EQ(bytesOf(target_), "new");
+    EXPECT_EQ(folder_.names(), Names{"job"});
+}
+
+TEST_F(StagedFiles, piecesStandOneBehindTheOther) {
+    std::vector<std::string_view> pieces(1000, "ab");
+    pieces.insert(pieces.begin() + 500, {"", std::string_view("<\0>", 3)});
+    StagedFile(target_, pieces, keep).commit();
+    const std::string bytes = bytesOf(target_);
+    EXPECT_EQ(bytes.size(), 2003U);
+    EXPECT_EQ(bytes.substr(998, 7), std::string("ab<\0>ab", 7));
+    StagedFile(target_, std::vector<std::string_view>{}, keep).commit();
+    EXPECT_EQ(bytesOf(target_), "");
+}
+
+TEST_F(StagedFiles, permissionsAreKept) {
+    folder_.file("job", "old");
+    for (const unsigned mode : {0600U, 0664U, 0666U, 0755U}) {
+        fs::permissions(target_, fs::perms{mode});
+        StagedFile(target_, "new", keep).commit();
+        EXPECT_EQ(permissionsOf(target_), fs::perms{mode});
+    }
+    fs::permissions(target_, fs::perms{0444});
+    EXPECT_THROW(StagedFile(target_, "never", keep), std::system_error);
+    EXPECT_EQ(bytesOf(target_), "new");
+    StagedFile(target_, "normal", makeNormal).commit();
+    EXPECT_EQ(permissionsOf(target_), fs::perms{0644});
+
+    const mode_t mask = umask(027);
+    StagedFile(folder_.path() / "fresh", "", keep).commit();
+    umask(mask);
+    EXPECT_EQ(permissionsOf(folder_.path() / "fresh"), fs::perms{0640});
+}
+
+TEST_F(StagedFiles, ownershipIsKeptWhereTheProcessMay) {
+    folder_.file("job", "old");
+    if (::geteuid() != 0 || ::chown(target_.c_str(), 1234, 4321) != 0) GTEST_SKIP() << "only root can give files away";
+    ASSERT_EQ(::chmod(target_.c_str(), 02754), 0);
+    StagedFile(target_, "new", keep).commit();
+    struct stat status {};
+    ASSERT_EQ(::stat(target_.c_str(), &status), 0);
+    EXPECT_EQ(status.st_uid, 1234U);
+    EXPECT_EQ(status.st_gid, 4321U);
+    EXPECT_EQ(status.st_mode & 07777U, 02754U);
+}
+
+TEST_F(StagedFiles, linksStayAndTheFileBehindThemIsReplaced) {
+    fs::create_directory(folder_.path() / "real");
+    folder_.file("real/file", "old");
+    fs::create_symlink("real/file", folder_.path() / "middle");
+    fs::create_symlink("middle", target_);
+    StagedFile(target_, "new", keep).commit();
+    EXPECT_TRUE(fs::is_symlink(target_));
+    EXPECT_EQ(bytesOf(folder_.path() / "real/file"), "new");
+
+    fs::remove(folder_.path() / "real/file");
+    StagedFile(target_, "again", keep).commit();
+    EXPECT_EQ(bytesOf(folder_.path() / "real/file"), "again") << "a link to a missing file";
+
+    fs::create_symlink("loop", folder_.path() / "loop");
+    EXPECT_THROW(StagedFile(folder_.path() / "loop", "", keep), std::system_error);
+}
+
+TEST_F(StagedFiles, refusesWhatIsNoFileAndLeavesNothing) {
+    fs::create_directory(target_);
+    const auto reason = [](const fs::path& target) -> std::string {
+        try {
+            StagedFile(target, "new", makeNormal).commit();
+            return "written";
+        } catch (const std::system_error& error) {
+            return error.what();
+        }
+    };
+    EXPECT_EQ(reason(target_), "replace folder \"" + target_.string() + "\": Is a directory");
+    const fs::path fifo = folder_.path() / "fifo";
+    ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
+    EXPECT_EQ(reason(fifo), "replace special file \"" + fifo.string() + "\": Operation not supported");
+    EXPECT_NE(reason(folder_.path() / "none" / "job").find("No such file or directory"), std::string::npos);
+    EXPECT_EQ(folder_.names(), (Names{"fifo", "job"}));
+}
+
+TEST_F(StagedFiles, aFullDiskLosesNothing) {
+    folder_.file("job", "old");
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit small{1000, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &small);
+    EXPECT_THROW(StagedFile(target_, std::string(5000, 'x'), keep), std::system_error);
+    setrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, handler);
+    EXPECT_EQ(bytesOf(target_), "old");
+    EXPECT_EQ(folder_.names(), Names{"job"});
+}
+
+TEST_F(StagedFiles, aFailedRenameLeavesTheOldFile) {
+    StagedFile staged(target_, "new", keep);
+    fs::create_directory(target_);
+    folder_.file("job/inside", "");
+    EXPECT_THROW(staged.commit(), std::system_error);
+    EXPECT_TRUE(fs::exists(target_ / "inside"));
+}
+
+TEST_F(StagedFiles, replacingMovesTheJobToItsNewName) {
+    const fs::path former = folder_.file("former", "old");
+    StagedFile(target_, "new", keep).commitReplacing(former);
+    EXPECT_EQ(bytesOf(target_), "new");
+    EXPECT_EQ(folder_.names(), Names{"job"});
+
+    StagedFile(target_, "newer", keep).commitReplacing(folder_.path() / "missing");
+    StagedFile(target_, "newest", keep).commitReplacing(target_);
+    StagedFile(target_, "last", keep).commitReplacing(folder_.path() / "." / "job");
+    EXPECT_EQ(bytesOf(target_), "last");
+    EXPECT_EQ(folder_.names(), Names{"job"});
+}
+
+TEST_F(StagedFiles, replacingOverAnotherFileLosesNeitherOnFailure) {
+    const fs::path former = folder_.file("former", "old");
+    folder_.file("job", "other");
+    StagedFile(target_, "new", keep).commitReplacing(former);
+    EXPECT_EQ(bytesOf(target_), "new");
+    EXPECT_EQ(folder_.names(), Names{"job"});
+}
+
+TEST_F(StagedFiles, replacingAHardLinkLeavesTheTargetAlone) {
+    const fs::path former = folder_.file("former", "old");
+    fs::create_hard_link(former, target_);
+    StagedFile(target_, "new", keep).commitReplacing(former);
+    EXPECT_EQ(bytesOf(target_), "new");
+    EXPECT_EQ(folder_.names(), Names{"job"});
+}
+
+TEST_F(StagedFiles, aFailedReplacingPutsTheOldFileBack) {
+    const fs::path former = folder_.file("former", "old");
+    StagedFile staged(target_, "new", keep);
+    // Without its temporary file the second rename fails.
+    for (const std::string& name : folder_.names()) {
+        if (name != "former") fs::remove(folder_.path() / name);
+    }
+    EXPECT_THROW(staged.commitReplacing(former), std::system_error);
+    EXPECT_EQ(bytesOf(former), "old");
+    EXPECT_EQ(folder_.names(), Names{"former"});
+}
+
+}  // namespace
+}  // namespace kestedit::test
