@@ -1,0 +1,112 @@
+#include "editor/ChangeRules.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "editor/modSpinButtons.h"
+#include "editor/rules/action.h"
+#include "editor/rules/attributes.h"
+#include "editor/rules/compression.h"
+#include "editor/rules/conditions.h"
+#include "editor/rules/dateAge.h"
+#include "editor/rules/existing.h"
+#include "editor/rules/paths.h"
+#include "editor/rules/schedule.h"
+#include "editor/rules/selection.h"
+#include "editor/rules/synchronise.h"
+
+namespace kestedit {
+
+namespace {
+
+/// A control or group, and the rule of its change; `member` is the index of the member that changed.
+struct ChangeRule {
+    std::string_view control;
+    void (*run)(FormModel& form, int member);
+};
+
+template <void (*... Rules)(FormModel&)>
+void run(FormModel& form, int /*member*/) {
+    (Rules(form), ...);
+}
+
+// clang-format off
+constexpr std::array changeRules{
+    // the action
+    ChangeRule{"optAction",           run<ApplyAction>},
+    ChangeRule{"chkPreview",          run<ApplyPreview>},
+    ChangeRule{"chkOnlyCompare",      run<ApplyOnlyCompare>},
+    // paths
+    ChangeRule{"chkEditPaths",        run<ApplyEditPaths>},
+    ChangeRule{"dxSource",            run<RefreshPathTexts>},
+    ChangeRule{"dxDest",              run<RefreshPathTexts>},
+    ChangeRule{"dxMonitorPath",       run<RefreshPathTexts>},
+    // schedule
+    ChangeRule{"optIntervall",        run<ApplyIntervall>},
+    ChangeRule{"optIntTime",          run<ApplyIntTime>},
+    ChangeRule{"optMonitorPath",      run<ApplyMonitorPath>},
+    ChangeRule{"dxDays",              run<UpdateIntervalUnitLabels>},
+    ChangeRule{"dxHours",             run<UpdateIntervalUnitLabels>},
+    ChangeRule{"dxMinutes",           run<UpdateIntervalUnitLabels>},
+    // run conditions and post-run program
+    ChangeRule{"chkInactive",         run<ApplyInactive, MarkInactivePathPage>},
+    ChangeRule{"chkFreeSpace",        run<ApplyFreeSpace>},
+    ChangeRule{"chkExecDo",           run<ApplyExecDo>},
+    ChangeRule{"chkExecWait",         run<ApplyExecWait>},
+    // selection
+    ChangeRule{"chkSubFolder",        run<ApplySubFolder>},
+    ChangeRule{"optFolderMatch",      run<ApplyFolderMatch>},
+    ChangeRule{"dxFolderMatch",       run<ApplyFolderMatch>},
+    ChangeRule{"chkRegExFolder",      run<ApplyRegExFolder>},
+    ChangeRule{"chkNoHiddenFolder",   run<ApplyFolderMatch>},
+    ChangeRule{"chkNoSystemFolder",   run<ApplyFolderMatch>},
+    ChangeRule{"chkNoReadOnlyFolder", run<ApplyFolderMatch>},
+    ChangeRule{"chkDelEFol",          run<ApplyFolderMatch>},
+    ChangeRule{"optFileMatch",        run<ApplyFileMatch>},
+    ChangeRule{"dxFileName",          run<ApplyFileMatch>},
+    ChangeRule{"chkRegExFile",        run<ApplyRegExFile>},
+    ChangeRule{"optExt",              run<ApplyExt>},
+    ChangeRule{"dxExt",               run<ApplyExt>},
+    ChangeRule{"optSize",             run<ApplySize>},
+    ChangeRule{"dxSize",              run<ApplySize>},
+    // date and age
+    ChangeRule{"optAge",              run<ApplyAge>},
+    ChangeRule{"dxAge",               run<UpdateAgeUnitLabels>},
+    ChangeRule{"dxAgeHours",          run<UpdateAgeUnitLabels>},
+    ChangeRule{"dxAgeMinutes",        run<UpdateAgeUnitLabels>},
+    ChangeRule{"chkDestFileTime",     run<ApplyDestFileTime>},
+    // attributes
+    ChangeRule{"optAttrSetSource",    run<ApplySourceAttributes>},
+    ChangeRule{"optAttrSetDest",      run<ApplyDestAttributes>},
+    ChangeRule{"chkAttrArchive",      run<MarkAttributesPage>},
+    ChangeRule{"chkAttrReadOnly",     run<MarkAttributesPage>},
+    ChangeRule{"chkAttrSystem",       run<MarkAttributesPage>},
+    ChangeRule{"chkAttrHidden",       run<MarkAttributesPage>},
+    ChangeRule{"chkAttrNormal",       run<MarkAttributesPage>},
+    ChangeRule{"chkAttrComp",         run<MarkAttributesPage>},
+    // compression and extraction
+    ChangeRule{"chkZipAll",           run<ApplyZipAll>},
+    ChangeRule{"chkZipDelComp",       run<ApplyZipDelComp>},
+    ChangeRule{"chkZipDelDeComp",     run<ApplyZipDelDeComp>},
+    ChangeRule{"dxZipGrade",          run<PickCompressionLevel>},
+    ChangeRule{"optUnZip",            ApplyUnZipExisting},
+    // destination
+    ChangeRule{"chkFStruct",          run<ApplyFolderStructure>},
+    ChangeRule{"optExist",            run<ApplyExist>},
+    ChangeRule{"dxRenamer",           run<ApplyRenameText>},
+    ChangeRule{"dxPickRenamer",       run<ApplyRenameScheme>},
+    ChangeRule{"dxPickExistSelecter", run<ApplyExist>},
+    ChangeRule{"optSyncExist",        ApplySyncExist},
+    ChangeRule{"optSyncStart",        run<ApplySyncStart>},
+};
+// clang-format on
+
+}  // namespace
+
+void RunChangeRule(FormModel& form, const EditorControl& control) {
+    const auto* const rule = std::ranges::find(changeRules, control.Base, &ChangeRule::control);
+    if (rule != changeRules.end()) rule->run(form, control.Member);
+}
+
+}  // namespace kestedit

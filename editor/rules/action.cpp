@@ -1,0 +1,193 @@
+#include "editor/rules/action.h"
+
+#include <algorithm>
+#include <array>
+#include <initializer_list>
+#include <string>
+
+#include "editor/NodeImages.h"
+#include "editor/modCompNodes.h"
+#include "editor/rules/compression.h"
+#include "editor/rules/dateAge.h"
+#include "editor/rules/existing.h"
+#include "editor/rules/synchronise.h"
+
+namespace kestedit {
+
+namespace {
+
+constexpr int actionCount = 6;
+
+struct ActionImages {
+    std::string_view plain;
+    std::string_view preview;
+};
+
+// In the order of the actions. Compress and synchronise break the row on purpose: runners store these numbers with the
+// job. Test: ActionRules.NodeImagesFollowActionAndPreview.
+constexpr std::array<ActionImages, actionCount> actionImages{{
+    {"2", "3"},
+    {"4", "5"},
+    {"6", "7"},
+    {"9", "13"},
+    {"14", "15"},
+    {"12", "11"},
+}};
+
+bool hasView(const FormModel& form, std::initializer_list<std::string_view> levels) {
+    return std::ranges::find(levels, std::string_view{form.ViewLevel}) != levels.end();
+}
+
+void markPagesByAction(FormModel& form, Action action) {
+    const bool compressing = action == Action::compress || action == Action::extract;
+    if (compressing) form.chkFStruct.State = 0;
+    if (action == Action::remove && hasView(form, {"4", "9", "15"})) {
+        SetNodeImage(form, Page::existing, image::doesNotApply);
+    }
+    if (hasView(form, {"4", "15"})) {
+        SetNodeImage(form, Page::compression, compressing ? image::applies : image::doesNotApply);
+    }
+    if (action == Action::synchronise && hasView(form, {"4", "9", "15"})) {
+        SetNodeImage(form, Page::existing, image::none);
+    }
+}
+
+void setDestinationTitle(FormModel& form, const std::string& title) {
+    if (form.TreeBusy) return;
+    if (!hasView(form, {"4", "15"})) return;
+    const std::size_t position = form.ViewLevel == "4" ? 12 : 10;
+    if (position < form.Navigation.Nodes.size()) form.Navigation.Nodes[position].Title = title;
+}
+
+// Path page and linked options. Synchronising renames source and destination, keeps the folder structure in any case
+// and has its own choice for existing files.
+void linkOptionsToAction(FormModel& form, Action action) {
+    const bool synchronise = action == Action::synchronise;
+    const auto& texts = form.TextCatalogue;
+    form.chkOnlyCompare.Visible = synchronise || action == Action::copy || action == Action::move;
+    form.fraSync.Visible = synchronise;
+    if (synchronise) {
+        form.BringToFront(form.fraSync);
+        form.BringToFront(form.fraZielverzeichnis);
+        ApplyOnlyCompare(form);
+    }
+    form.lblSource[0].Caption = texts[synchronise ? 68 : 70];
+    form.lblDest[0].Caption = texts[synchronise ? 69 : 71];
+    form.chkOnlyCompare.Caption = texts[synchronise ? 76 : 77];
+    setDestinationTitle(form, texts[synchronise ? 74 : 75]);
+    if (synchronise) form.chkFStruct.State = 1;
+    form.chkFStruct.TabStop = !synchronise;
+    for (EditorControl& member : form.optExist)
+        member.TabStop = !synchronise;
+    if (synchronise) {
+        ApplySyncExist(form, 0);
+        ApplySyncStart(form);
+        ApplyOnlyCompare(form);
+    }
+}
+
+void showDeleteOptions(FormModel& form, bool visible) {
+    form.chkDelEFol.Visible = visible;
+    form.chkDelType.Visible = visible;
+    form.lblDeleteFiles.Visible = visible;
+    if (visible) SetNodeImage(form, Page::existing, image::doesNotApply);
+}
+
+// "(Mode Copy files - no options here)"
+std::string noOptionText(const FormModel& form) {
+    const auto action = form.optAction.selected();
+    const std::string caption = action ? form.optAction[static_cast<std::size_t>(*action)].Caption : std::string{};
+    return "(" + form.TextCatalogue[39] + " " + caption + " - " + form.TextCatalogue[67] + ")";
+}
+
+}  // namespace
+
+std::string_view ActionImage(int action, bool preview) {
+    const ActionImages& images = actionImages.at(static_cast<std::size_t>(action));
+    return preview ? images.preview : images.plain;
+}
+
+void ApplyAction(FormModel& form) {
+    const auto selected = form.optAction.selected();
+    if (!selected) return;
+    const auto action = static_cast<Action>(*selected);
+    SetNodeImage(form, Page::mode, ActionImage(*selected, form.chkPreview.isSet()));
+    markPagesByAction(form, action);
+    form.SelectedAction = *selected;
+    if (action == Action::copy) ApplyOnlyCompare(form);
+    ApplyFolderStructure(form);
+    ApplyDestFileTime(form);
+    ApplyAge(form);
+    linkOptionsToAction(form, action);
+    showDeleteOptions(form, action == Action::remove);
+    ApplyExist(form);
+    ShowActionPicture(form, form.SelectedAction);
+}
+
+void ApplyPreview(FormModel& form) {
+    if (form.SelectedAction >= actionCount) return;
+    const auto nodes = viewNodes(form.ViewLevel);
+    const auto focused = static_cast<std::size_t>(form.Navigation.FocusedNode);
+    if (focused < nodes.size() && form.Ready && !form.TreeBusy) {
+        form.Navigation.Nodes.at(focused).Image = ActionImage(form.SelectedAction, form.chkPreview.isSet());
+    }
+    ShowActionPicture(form, form.SelectedAction);
+}
+
+void ReflectOnlyCompare(FormModel& form) {
+    if (selectedAction(form) != Action::synchronise) return;
+    const bool comparing = form.chkOnlyCompare.isSet();
+    form.optSyncExist[0].Enabled = !comparing;
+    form.optSyncExist[0].Caption = form.TextCatalogue[comparing ? 73 : 72];
+    form.chkSyncDelete.Visible = !comparing;
+}
+
+void ApplyOnlyCompare(FormModel& form) {
+    if (selectedAction(form) != Action::synchronise) return;
+    ReflectOnlyCompare(form);
+    form.optSyncExist.select(form.chkOnlyCompare.isSet() ? 1 : 0);
+    ApplySyncExist(form, 0);
+}
+
+std::string_view CompressionMark(const FormModel& form) {
+    const auto action = form.optAction.selected();
+    const bool applies = action == static_cast<int>(Action::compress) || action == static_cast<int>(Action::extract);
+    return applies ? image::applies : image::doesNotApply;
+}
+
+void MarkCompressionPage(FormModel& form) {
+    if (form.optAction.selected()) SetNodeImage(form, Page::compression, CompressionMark(form));
+}
+
+void ShowActionPicture(FormModel& form, int action) {
+    int picture = action + 1;
+    std::string text = form.optAction[static_cast<std::size_t>(action)].Caption;
+    if (form.chkPreview.isSet()) {
+        picture += actionCount;
+        text += " - " + form.chkPreview.Caption;
+    }
+    if (picture >= 1 && picture <= 2 * actionCount) form.ActionPicture = picture;
+    form.Image1.ToolTipText = form.TextCatalogue[39] + ": " + text;
+}
+
+void ShowCompressionFrames(FormModel& form) {
+    const Action action = selectedAction(form);
+    form.fraZip.Visible = action == Action::compress;
+    form.fraUnZip.Visible = action == Action::extract;
+    form.lblNoOptionMsg[0].Visible = !form.fraZip.Visible && !form.fraUnZip.Visible;
+    if (form.lblNoOptionMsg[0].Visible) form.lblNoOptionMsg[0].Caption = noOptionText(form);
+    ApplyZipAll(form);
+    ApplyZipDelComp(form);
+    ApplyZipDelDeComp(form);
+}
+
+void ShowDestinationFrames(FormModel& form) {
+    const Action action = selectedAction(form);
+    form.fraZielverzeichnis.Visible = action != Action::remove && action != Action::extract;
+    form.fraExistingUnzip.Visible = action == Action::extract && form.ViewLevel != "9";
+    form.lblNoOptionMsg[1].Visible = action == Action::remove;
+    if (form.lblNoOptionMsg[1].Visible) form.lblNoOptionMsg[1].Caption = noOptionText(form);
+    ApplyExistingFilesPage(form);
+}
+
+}  // namespace kestedit

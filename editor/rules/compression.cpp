@@ -1,0 +1,125 @@
+#include "editor/rules/compression.h"
+
+#include <array>
+
+#include "editor/NodeImages.h"
+#include "editor/rules/action.h"
+
+namespace kestedit {
+
+namespace {
+
+constexpr int firstLevel = 1;
+constexpr std::array<std::size_t, 4> levelTexts{6, 7, 8, 9};
+
+void setArchiveFolders(FormModel& form, bool all) {
+    if (form.DisableInsteadOfHide) {
+        form.chkZipIntStruct.Visible = true;
+        if (!all) form.chkZipExtStruct.Visible = true;
+        form.chkZipIntStruct.Enabled = !all;
+        form.chkZipExtStruct.Enabled = all;
+    } else {
+        form.chkZipExtStruct.Visible = all;
+    }
+}
+
+// The mark while files are copied or moved: folder structure first, then the choice for existing files.
+std::string_view copyMark(const FormModel& form) {
+    if (!form.chkSubFolder.isSet()) return image::none;
+    if (form.chkFStruct.isSet()) return image::applies;
+    return form.optExist[0].State == 0 ? image::applies : image::none;
+}
+
+std::string_view extractMark(const FormModel& form) {
+    if (form.chkFStruct.isSet()) return image::applies;
+    return form.optUnZip[0].State == 0 ? image::applies : image::none;
+}
+
+std::string_view compressMark(const FormModel& form) {
+    return form.optExist[0].State == 0 ? image::applies : image::none;
+}
+
+}  // namespace
+
+void ApplyZipAll(FormModel& form) {
+    if (form.chkSubFolder.isSet()) {
+        setArchiveFolders(form, form.chkZipAll.isSet());
+    } else {
+        (form.DisableInsteadOfHide ? form.chkZipExtStruct.Enabled : form.chkZipExtStruct.Visible) = false;
+    }
+}
+
+void ApplyZipDelComp(FormModel& form) {
+    const bool deleting = form.chkZipDelComp.isSet();
+    if (!deleting) form.chkZipDelComp.State = 0;  // a grey box becomes a plain cleared one
+    for (EditorControl* companion : {&form.chkZipDelCompBin, &form.chkZipDelCompBinFolder}) {
+        if (form.DisableInsteadOfHide) companion->Enabled = deleting;
+        companion->Visible = deleting || form.DisableInsteadOfHide;
+    }
+}
+
+void ApplyZipDelDeComp(FormModel& form) {
+    const bool deleting = form.chkZipDelDeComp.isSet();
+    if (!deleting) form.chkZipDelDeCompBin.State = 0;
+    if (form.DisableInsteadOfHide) form.chkZipDelDeCompBin.Enabled = deleting;
+    form.chkZipDelDeCompBin.Visible = deleting || form.DisableInsteadOfHide;
+}
+
+void FillCompressionLevels(FormModel& form) {
+    form.dxZipGrade.Items.clear();
+    for (const std::size_t entry : levelTexts)
+        form.dxZipGrade.Items.push_back(form.TextCatalogue[entry]);
+    const int position = form.CompressionLevel - firstLevel;
+    if (position >= 0 && position < static_cast<int>(levelTexts.size())) {
+        form.dxZipGrade.EditValue = form.dxZipGrade.Items[static_cast<std::size_t>(position)];
+    }
+}
+
+void PickCompressionLevel(FormModel& form) {
+    if (const auto position = form.dxZipGrade.itemIndex()) form.CompressionLevel = firstLevel + *position;
+}
+
+void ApplyFolderStructure(FormModel& form) {
+    switch (selectedAction(form)) {
+        case Action::copy:
+        case Action::move:
+            return SetNodeImage(form, Page::existing, copyMark(form));
+        case Action::extract:
+            return SetNodeImage(form, Page::existing, extractMark(form));
+        case Action::remove:
+        case Action::compress:
+        case Action::synchronise:
+            return;
+    }
+}
+
+void ApplyUnZipExisting(FormModel& form, int index) {
+    if (index == form.HandledUnZipItem) return;
+    form.HandledUnZipItem = index;
+    // Compressing asks for the group of existing files here, not for the one of extracting: the page shows that group.
+    // Test: CompressionRules.ExistingFilesMarkOfCompressAndExtract.
+    if (selectedAction(form) == Action::compress) SetNodeImage(form, Page::existing, compressMark(form));
+    if (selectedAction(form) == Action::extract) {
+        SetNodeImage(form, Page::existing, form.optUnZip[0].State == 0 ? image::applies : image::none);
+    }
+}
+
+std::string_view DestinationMark(const FormModel& form) {
+    if (!form.optAction.selected()) return image::none;
+    switch (selectedAction(form)) {
+        case Action::copy:
+        case Action::move:
+            return copyMark(form);
+        case Action::remove:
+            return image::doesNotApply;
+        case Action::compress:
+            return compressMark(form);
+        case Action::extract:
+            return extractMark(form);
+        case Action::synchronise:
+            break;
+    }
+    return image::none;
+}
+
+}  // namespace kestedit

@@ -1,0 +1,30 @@
+// Compression and extraction: companions of the switches, the level, and the mark of the destination page.
+#pragma once
+
+#include <string_view>
+
+#include "editor/FormModel.h"
+
+namespace kestedit {
+
+/// Change rule of chkZipAll: folder structure inside and outside the archive.
+void ApplyZipAll(FormModel& form);
+/// Change rule of chkZipDelComp. Its companion keeps its value when the switch is cleared, unlike chkZipDelDeComp's.
+void ApplyZipDelComp(FormModel& form);
+/// Change rule of chkZipDelDeComp; clears its companion when it is cleared.
+void ApplyZipDelDeComp(FormModel& form);
+
+/// Fills dxZipGrade and selects the job's level; a level outside 1 to 4 leaves the text as it is.
+void FillCompressionLevels(FormModel& form);
+/// Change rule of dxZipGrade: the entry picked is the job's level from now on.
+void PickCompressionLevel(FormModel& form);
+
+/// Change rule of chkFStruct: marks the destination page.
+void ApplyFolderStructure(FormModel& form);
+/// Change rule of optUnZip; acts only when `index` differs from the item that it handled last.
+void ApplyUnZipExisting(FormModel& form, int index);
+
+/// Image that the destination page starts with.
+[[nodiscard]] std::string_view DestinationMark(const FormModel& form);
+
+}  // namespace kestedit
