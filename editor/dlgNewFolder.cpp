@@ -1,0 +1,120 @@
+#include "editor/dlgNewFolder.h"
+
+#include <array>
+#include <charconv>
+#include <filesystem>
+#include <system_error>
+
+#include "editor/Findings.h"
+#include "editor/frmEdit.h"
+
+namespace kestedit {
+
+namespace {
+
+constexpr std::string_view section = "dlgNewFolder";
+constexpr std::string_view defaultTitle = "Neuer Ordner";
+constexpr std::size_t shortestName = 2;
+
+/// What the dialog shows and says for one path field. The fixed English text of the source is deliberate; the other two
+/// fields use the translated one. Test: NewFolder.ExistingFolderIsReportedByField.
+struct Service {
+    EditorControl FormModel::*field;
+    std::string_view fixedMessage;  ///< empty: the translated message
+};
+
+constexpr std::array services{
+    Service{&FormModel::dxSource, "Folder already exists."},
+    Service{&FormModel::dxDest, ""},
+    Service{&FormModel::dxMonitorPath, ""},
+};
+
+const Service* serviceOf(int mode) {
+    const auto index = static_cast<std::size_t>(mode);
+    return mode >= 0 && index < services.size() ? &services[index] : nullptr;
+}
+
+std::size_t characterCount(std::string_view text) {
+    std::size_t count = 0;
+    for (const char byte : text)
+        count += (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U ? 1U : 0U;
+    return count;
+}
+
+}  // namespace
+
+dlgNewFolder::dlgNewFolder(FormModel& form, const modIniHandler& texts, std::string_view title, Platform& platform)
+    : form_(form), texts_(texts), title_(title), platform_(platform) {}
+
+void dlgNewFolder::Load() {
+    if (serviceOf(form_.fMode)) {
+        const std::array suffixes{form_.lblSource[0].Caption, form_.lblDest[0].Caption,
+                                  texts_.ReadLanguageText(section, "t3", defaultTitle, textSize)};
+        Caption = texts_.ReadLanguageText(section, "t0", defaultTitle, textSize) + " - " +
+                  suffixes.at(static_cast<std::size_t>(form_.fMode));
+    }
+    cmdCreate.Caption = texts_.ReadLanguageText(section, "t1", "&Erstellen", textSize);
+    cmdCancel.Caption = texts_.ReadLanguageText("All", "t0", "&Abbrechen", textSize);
+    cmdCreate.Enabled = false;
+
+    const std::string colour = platform_.settings.read("Options", "BGColor", "");
+    std::int64_t number = 0;
+    if (colour.size() < 2) return;
+    const auto [end, error] = std::from_chars(colour.data(), colour.data() + colour.size(), number);
+    if (error == std::errc{} && number >= 0) BackColour = number;
+}
+
+EditorControl* dlgNewFolder::pathField() const {
+    const Service* const service = serviceOf(form_.fMode);
+    return service ? &(form_.*service->field) : nullptr;
+}
+
+void dlgNewFolder::onTextTyped(EditorControl& control, std::string_view text) {
+    if (&control != &dxTextEdit1) throw EventRefused(control.Name() + " takes no text");
+    if (!platform_.ini.codePage().encode(text)) throw EventRefused(UnstorableText(texts_, text));
+    dxTextEdit1.EditValue = std::string{text};
+    cmdCreate.Enabled = characterCount(text) >= shortestName;
+}
+
+void dlgNewFolder::onCommand(EditorControl& control) {
+    if (&control == &cmdCancel) {
+        open_ = false;
+    } else if (&control == &cmdCreate) {
+        if (!cmdCreate.Enabled) throw EventRefused("cmdCreate is disabled");
+        create();
+    } else {
+        throw EventRefused(control.Name() + " is no button");
+    }
+}
+
+void dlgNewFolder::create() {
+    EditorControl* const field = pathField();
+    if (!field) return;
+    const std::string name = dxTextEdit1.text();
+    const std::string path = platform_.files.BuildPath(field->text(), name);
+    if (platform_.files.FolderExists(path)) {
+        const std::string_view fixed = serviceOf(form_.fMode)->fixedMessage;
+        report(fixed.empty() ? texts_.ReadLanguageText(section, "t2", "Ordner existiert schon.", textSize)
+                             : std::string{fixed});
+        return;
+    }
+    try {
+        if (name.find('/') != std::string::npos) {
+            throw std::filesystem::filesystem_error("cannot create folder", path,
+                                                    std::make_error_code(std::errc::invalid_argument));
+        }
+        platform_.files.CreateFolder(path);
+    } catch (const std::filesystem::filesystem_error& failure) {
+        report(path + ": " + failure.code().message());
+        return;
+    }
+    field->EditValue = path;
+    field->ToolTipText = path;
+    open_ = false;
+}
+
+void dlgNewFolder::report(std::string_view text) {
+    (void)platform_.prompts.showMessage({std::string{title_}, std::string{text}, Buttons::ok, MessageIcon::none});
+}
+
+}  // namespace kestedit

@@ -1,0 +1,51 @@
+// The small dialog that creates one folder below the folder of a path field.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+#include "editor/FormModel.h"
+#include "persistence/modIniHandler.h"
+#include "platform/Platform.h"
+
+namespace kestedit {
+
+/// Its controls answer to their own names; FormModel::fMode of the form says which path field it serves. A driver shows
+/// it from Prompts::runNewFolder and hands it events until it is closed.
+class dlgNewFolder : public ControlRegistry {
+  public:
+    /// All must outlive the dialog.
+    dlgNewFolder(FormModel& form, const modIniHandler& texts, std::string_view title, Platform& platform);
+
+    EditorControl fraNew{*this, ControlKind::frame, "fraNew"};
+    EditorControl dxTextEdit1{*this, ControlKind::text, "dxTextEdit1", fraNew, ""};
+    EditorControl cmdCreate{*this, ControlKind::command, "cmdCreate"};
+    EditorControl cmdCancel{*this, ControlKind::command, "cmdCancel"};
+
+    std::string Caption;
+    /// Background of the dialog and of fraNew: blue * 65536 + green * 256 + red; nothing keeps the system's.
+    std::optional<std::int64_t> BackColour;
+
+    /// Texts, colour and the state of the buttons.
+    void Load();
+    [[nodiscard]] bool isOpen() const { return open_; }
+
+    // ---- user events. Each throws EventRefused for what no user could do.
+    void onTextTyped(EditorControl& control, std::string_view text);
+    void onCommand(EditorControl& control);
+    void onCloseBox() { open_ = false; }
+
+  private:
+    [[nodiscard]] EditorControl* pathField() const;
+    void create();
+    void report(std::string_view text);
+
+    FormModel& form_;
+    const modIniHandler& texts_;
+    std::string_view title_;
+    Platform& platform_;
+    bool open_ = true;
+};
+
+}  // namespace kestedit

@@ -1,0 +1,123 @@
+#include "editor/frmEdit.h"
+
+#include <charconv>
+#include <string>
+
+#include "editor/modCompNodes.h"
+#include "editor/modTabOrder.h"
+#include "editor/rules/RefreshPageStates.h"
+#include "editor/rules/action.h"
+#include "editor/rules/paths.h"
+#include "i18n/LoadLanguage.h"
+#include "i18n/PickLists.h"
+#include "i18n/modMessages.h"
+#include "persistence/modGetValues.h"
+
+namespace kestedit {
+
+namespace {
+
+// Catalogue entries of the window's caption.
+constexpr std::size_t newCaption = 0;
+constexpr std::size_t editCaption = 1;
+
+constexpr std::string_view windowSection = "EditWin";
+constexpr std::string_view globalSection = "Global";
+
+// A flag of the settings file: any whole number but 0 is on. What is no number keeps the default.
+bool flagOr(const std::string& text, bool fallback) {
+    int number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    return error == std::errc{} ? number != 0 : fallback;
+}
+
+// A colour of the settings file: red, green and blue in the lower three bytes.
+std::int64_t colourOr(const std::string& text, std::int64_t fallback) {
+    std::int64_t number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    return error == std::errc{} && number >= 0 && number <= 0xFFFFFF ? number : fallback;
+}
+
+}  // namespace
+
+frmEdit::frmEdit(ComponentValues& values, Platform& platform)
+    : values_(values), platform_(platform), ini_(platform.ini, values), jobs_(platform.ini) {
+    ViewLevel = values.ViewLevel;
+}
+
+void frmEdit::Load() {
+    readWindowSettings();
+    loadTexts();
+    chkEditPaths.State = editPaths_ ? 1 : 0;
+    loadByMode();
+    Navigation.RowColour =
+        colourOr(ini_.ReadProgramSetting(globalSection, "RowBgCol", "14737632", textSize), Navigation.RowColour);
+    Navigation.RowTextColour =
+        colourOr(ini_.ReadProgramSetting(globalSection, "RowTxtCol", "0", textSize), Navigation.RowTextColour);
+    TreeBusy = true;
+    BuildNavigationTree(*this);
+    TreeBusy = false;
+    if (const int view = viewNumber(*this)) RefreshPageStates(*this, "all", view, 0);
+    Ready = true;
+    if (values_.Mode == "New") applyNewJob();
+    showPage(0);
+    focus(dxName);
+    SetTabOrder(*this);
+    loading_ = false;
+}
+
+void frmEdit::readWindowSettings() {
+    Navigation.ShowIcons = flagOr(ini_.ReadProgramSetting(windowSection, "ShowIcons", "1", textSize), true);
+    editPaths_ = flagOr(ini_.ReadProgramSetting(windowSection, "chkEditPaths", "1", textSize), true);
+    DisableInsteadOfHide = flagOr(ini_.ReadProgramSetting(windowSection, "DisableInsteadOfHide", "0", textSize), false);
+}
+
+void frmEdit::loadTexts() {
+    if (values_.UseBuiltInTexts) {
+        FillBuiltInTexts(TextCatalogue, ReplaceIfTexts);
+        FillPickLists(*this);
+    } else {
+        LoadLanguage(*this, ini_);
+    }
+    RefreshPathTexts(*this);
+}
+
+void frmEdit::loadByMode() {
+    if (values_.Mode == "Edit") {
+        Caption = values_.AppTitle + " - " + TextCatalogue[editCaption];
+        loadJob();
+    } else if (values_.Mode == "New") {
+        Caption = values_.AppTitle + " - " + TextCatalogue[newCaption];
+        SetPresentDates(*this, platform_.clock.now());
+    }
+}
+
+// The action comes first and its rule with it, so that the values that the job stores behind it stand.
+void frmEdit::loadJob() {
+    const std::string file = platform_.files.BuildPath(values_.JobDir, platform_.files.GetFileName(values_.JobFile));
+    const auto job = jobs_.read(file);
+    if (!job) return;
+    GetAction(*this, *job);
+    ApplyAction(*this);
+    std::string comment = ini_.ReadIniFileValue("Job", "Comment", "", values_.JobFile, textSize);
+    GetValues(*this, *job, std::move(comment), platform_.dates, platform_.clock.now().date);
+    ApplyLoadedChoices(*this);
+    if (DateFormatChanged) {
+        Notice notice = DateChangeNotice(ini_);
+        (void)platform_.prompts.showMessage(
+            {std::move(notice.title), std::move(notice.text), Buttons::ok, MessageIcon::information});
+    }
+}
+
+void frmEdit::applyNewJob() {
+    SetNewJobDefaults(*this, platform_.clock.now());
+    ApplyAction(*this);
+    ApplyLoadedChoices(*this);
+    if (ViewLevel == "4" || ViewLevel == "15") SetNodeImage(*this, Page::reduced, image::doesNotApply);
+}
+
+void frmEdit::close() {
+    open_ = false;
+}
+
+}  // namespace kestedit

@@ -1,0 +1,117 @@
+// The editor's form: its start-up, one handler for each kind of user event, and its end.
+#pragma once
+
+#include <cstdint>
+#include <initializer_list>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include "editor/FormModel.h"
+#include "persistence/ComponentValues.h"
+#include "persistence/JobStore.h"
+#include "persistence/modIniHandler.h"
+#include "platform/Platform.h"
+
+namespace kestedit {
+
+/// An event that no user could cause: its control is disabled, hidden, read-only or of another kind.
+class EventRefused : public std::invalid_argument {
+  public:
+    using std::invalid_argument::invalid_argument;
+};
+
+/// Drivers hand every user event to one of the `on...` handlers and then show what the controls say; they change
+/// nothing in the model themselves. A handler throws EventRefused, before it has changed anything, for an event that no
+/// user could cause, and lets a failure of the platform (std::system_error) out; the form stays open then, with
+/// everything the user typed. Handlers may put questions through Platform::prompts and return when these are answered.
+class frmEdit : public FormModel {
+  public:
+    /// Both must outlive the form.
+    frmEdit(ComponentValues& values, Platform& platform);
+
+    /// Everything up to the moment where the form becomes visible: settings, texts, job or new-job defaults,
+    /// navigation, first rule pass, focus, tab order.
+    void Load();
+
+    [[nodiscard]] bool isOpen() const { return open_; }
+    /// Whether the one-shot timer still waits for the form to become visible.
+    [[nodiscard]] bool isTimerRunning() const { return timerRunning_; }
+    [[nodiscard]] const ComponentValues& values() const { return values_; }
+    [[nodiscard]] Platform& platform() const { return platform_; }
+
+    // ---- user events
+    /// The text of a field is now `text`; one call for each change while typing, deleting or pasting. Refused, with the
+    /// text before it kept, when the job file's code page cannot hold it. Line breaks in a memo become "\r\n", in any
+    /// other field blanks.
+    void onTextTyped(EditorControl& control, std::string_view text);
+    /// The user has left a field or confirmed it: checks that look at the disk run now and not while typing.
+    void onEditingFinished(EditorControl& control);
+    void onCheckClicked(EditorControl& control, int state);
+    void onOptionChosen(EditorControl& member);
+    /// Refused when `text` is not an entry of the list.
+    void onItemPicked(EditorControl& control, std::string_view text);
+    /// Nothing empties the editor.
+    void onDateChosen(EditorControl& control, std::optional<Date> date);
+    void onTimeChosen(EditorControl& control, std::optional<TimeOfDay> time);
+    void onNumberTyped(EditorControl& control, std::optional<std::int64_t> number);
+    /// One click of a spin button.
+    void onSpin(EditorControl& control, bool up);
+    /// A path field's inner button: 0 browses, 1 creates a folder.
+    void onInnerButton(EditorControl& control, int button);
+    /// A command button: cmdPrevious, cmdNext, cmdSave, cmdCancel.
+    void onCommand(EditorControl& control);
+    void onNodeClicked(int position);
+    /// A key in the navigation list: 38 and 40 move the focus and show the page, others do nothing.
+    void onNodeKey(int keyCode);
+    /// A mouse button pressed on a field; 2 is the right one.
+    void onMousePressed(EditorControl& control, int button);
+    void onFocused(EditorControl& control);
+    /// The one-shot timer; does nothing when it has fired before.
+    void onTimer();
+    /// The window's close box: ends the editing without setting Cancelled.
+    void onCloseBox();
+
+    /// Why a user cannot act on the control now ("dxSize is disabled"), or nothing. Page frames do not count: a script
+    /// may act on a page that is not shown, as a user would after a click on its node.
+    [[nodiscard]] std::optional<std::string> obstacle(const EditorControl& control) const;
+
+  private:
+    // start-up
+    void readWindowSettings();
+    void loadTexts();
+    void loadByMode();
+    void loadJob();
+    void applyNewJob();
+    // events
+    void requireReachable(const EditorControl& control, std::initializer_list<ControlKind> kinds) const;
+    void changed(EditorControl& control);
+    void showPage(int position);
+    void focus(EditorControl& control);
+    void checkPaths();
+    void browsePath(EditorControl& control);
+    void browseExecPath(int button);
+    void createFolder(EditorControl& control);
+    // saving
+    [[nodiscard]] bool validate();
+    void reportInvalid(EditorControl& control, std::size_t message);
+    void save();
+    void saveNew(const std::string& name);
+    void saveEdited(const std::string& name);
+    [[nodiscard]] Answer askForName(Buttons buttons, std::string_view firstKey);
+    [[nodiscard]] bool confirmOverwrite(std::string_view question);
+    [[nodiscard]] std::string jobPath(const std::string& name) const;
+    void close();
+
+    ComponentValues& values_;
+    Platform& platform_;
+    modIniHandler ini_;
+    JobStore jobs_;
+    bool loading_ = true;
+    bool open_ = true;
+    bool timerRunning_ = true;
+    bool editPaths_ = true;
+};
+
+}  // namespace kestedit

@@ -1,0 +1,247 @@
+// The handlers of frmEdit: each checks that a user could cause the event, changes the control, and runs its rule.
+#include <algorithm>
+#include <string>
+
+#include "editor/ChangeRules.h"
+#include "editor/Findings.h"
+#include "editor/NumberRanges.h"
+#include "editor/TextFilters.h"
+#include "editor/frmEdit.h"
+#include "editor/modCompNodes.h"
+#include "editor/modSpinButtons.h"
+
+namespace kestedit {
+
+namespace {
+
+constexpr int keyUp = 38;
+constexpr int keyDown = 40;
+constexpr int rightButton = 2;
+
+// A field of one line shows a pasted line break as a blank, and the job file could not hold it either.
+std::string singleLine(std::string_view text) {
+    std::string line;
+    line.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool windowsBreak = text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n';
+        if (windowsBreak) continue;
+        line += text[i] == '\r' || text[i] == '\n' || text[i] == '\0' ? ' ' : text[i];
+    }
+    return line;
+}
+
+// Every kind of line break as "\r\n", which is what the comment's encoding in the job file knows.
+std::string windowsLines(std::string_view text) {
+    std::string lines;
+    lines.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\r' || text[i] == '\n') {
+            if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') ++i;
+            lines += "\r\n";
+        } else {
+            lines += text[i] == '\0' ? ' ' : text[i];
+        }
+    }
+    return lines;
+}
+
+/// The three editors of one duration.
+struct Duration {
+    EditorControl FormModel::*minutes;
+    EditorControl FormModel::*hours;
+    EditorControl FormModel::*days;
+};
+constexpr Duration durations[] = {
+    {&FormModel::dxMinutes, &FormModel::dxHours, &FormModel::dxDays},
+    {&FormModel::dxAgeMinutes, &FormModel::dxAgeHours, &FormModel::dxAge},
+};
+
+// The editor has taken its step: carries and borrows between the editors of its duration.
+void settleDuration(FormModel& form, const EditorControl& stepped, bool up) {
+    for (const Duration& duration : durations) {
+        EditorControl& minutes = form.*duration.minutes;
+        EditorControl& hours = form.*duration.hours;
+        EditorControl& days = form.*duration.days;
+        if (&stepped == &minutes) SpinMinutes(minutes, hours, days, up);
+        if (&stepped == &hours) SpinHours(minutes, hours, days, up);
+        if (&stepped == &days) SpinDays(minutes, hours, days, up);
+    }
+}
+
+bool isDays(const FormModel& form, const EditorControl& control) {
+    return std::ranges::any_of(durations, [&](const Duration& row) { return &(form.*row.days) == &control; });
+}
+
+}  // namespace
+
+std::optional<std::string> frmEdit::obstacle(const EditorControl& control) const {
+    if (!control.Enabled) return control.Name() + " is disabled";
+    if (!control.Visible) return control.Name() + " is hidden";
+    for (const EditorControl* frame = control.Container; frame && frame->Container; frame = frame->Container) {
+        if (!frame->Visible) return control.Name() + " stands in " + frame->Name() + ", which is hidden";
+    }
+    return std::nullopt;
+}
+
+void frmEdit::requireReachable(const EditorControl& control, std::initializer_list<ControlKind> kinds) const {
+    if (std::ranges::find(kinds, control.Kind) == kinds.end()) {
+        throw EventRefused(control.Name() + " takes no such event");
+    }
+    if (const auto reason = obstacle(control)) throw EventRefused(*reason);
+}
+
+void frmEdit::changed(EditorControl& control) {
+    RunChangeRule(*this, control);
+    if (&control == &chkEditPaths) {
+        ini_.WriteProgramSetting("EditWin", "chkEditPaths", chkEditPaths.isSet() ? "1" : "0");
+    }
+}
+
+void frmEdit::onTextTyped(EditorControl& control, std::string_view text) {
+    requireReachable(control, {ControlKind::text, ControlKind::password, ControlKind::memo, ControlKind::path});
+    if (control.ReadOnly) throw EventRefused(control.Name() + " is filled by its buttons only");
+    if (!platform_.ini.codePage().encode(text)) throw EventRefused(UnstorableText(ini_, text));
+    control.EditValue = control.Kind == ControlKind::memo ? windowsLines(text) : singleLine(text);
+    FilterFieldText(*this, control);
+    changed(control);
+}
+
+void frmEdit::onEditingFinished(EditorControl& control) {
+    if (control.Kind == ControlKind::path && &control != &dxExecPath) checkPaths();
+}
+
+void frmEdit::onCheckClicked(EditorControl& control, int state) {
+    requireReachable(control, {ControlKind::check});
+    if (state < 0 || state > 2) throw EventRefused(control.Name() + " takes 0, 1 or 2");
+    control.State = state;
+    changed(control);
+}
+
+void frmEdit::onOptionChosen(EditorControl& member) {
+    requireReachable(member, {ControlKind::option});
+    for (EditorControl* other : group(member.Base))
+        other->State = other == &member ? 1 : 0;
+    changed(member);
+}
+
+void frmEdit::onItemPicked(EditorControl& control, std::string_view text) {
+    requireReachable(control, {ControlKind::pick});
+    if (std::ranges::find(control.Items, text) == control.Items.end()) {
+        throw EventRefused(control.Name() + " has no entry \"" + std::string{text} + "\"");
+    }
+    control.EditValue = std::string{text};
+    changed(control);
+}
+
+void frmEdit::onDateChosen(EditorControl& control, std::optional<Date> date) {
+    requireReachable(control, {ControlKind::date});
+    if (date && !date->ok()) throw EventRefused(control.Name() + " takes no such date");
+    control.EditValue = date ? Value{*date} : Value{};
+    changed(control);
+}
+
+void frmEdit::onTimeChosen(EditorControl& control, std::optional<TimeOfDay> time) {
+    requireReachable(control, {ControlKind::time});
+    if (time && (*time < TimeOfDay{0} || *time >= std::chrono::days{1})) {
+        throw EventRefused(control.Name() + " takes no such time");
+    }
+    control.EditValue = time ? Value{*time} : Value{};
+    changed(control);
+}
+
+void frmEdit::onNumberTyped(EditorControl& control, std::optional<std::int64_t> number) {
+    requireReachable(control, {ControlKind::number, ControlKind::spin});
+    const NumberRange range = numberRange(control.Base);
+    if (number && (*number < range.least || *number > range.most)) {
+        throw EventRefused(control.Name() + " takes " + std::to_string(range.least) + " to " +
+                           std::to_string(range.most));
+    }
+    control.EditValue = number ? Value{*number} : Value{};
+    changed(control);
+}
+
+void frmEdit::onSpin(EditorControl& control, bool up) {
+    requireReachable(control, {ControlKind::spin});
+    const bool stays = (!up && isDays(*this, control) && control.number() == 0) ||
+                       (up && control.number() >= numberRange(control.Base).most);
+    if (!stays) control.EditValue = control.number() + (up ? 1 : -1);
+    settleDuration(*this, control, up);
+    changed(control);
+}
+
+void frmEdit::onInnerButton(EditorControl& control, int button) {
+    requireReachable(control, {ControlKind::path});
+    if (&control == &dxExecPath) return browseExecPath(button);
+    if (button == 0) return browsePath(control);
+    if (button == 1) return createFolder(control);
+    throw EventRefused(control.Name() + " has no button " + std::to_string(button));
+}
+
+void frmEdit::onCommand(EditorControl& control) {
+    requireReachable(control, {ControlKind::command});
+    const int last = static_cast<int>(Navigation.Nodes.size()) - 1;
+    const int focused = Navigation.FocusedNode;
+    if (&control == &cmdPrevious) {
+        onNodeClicked(focused >= 1 ? focused - 1 : last);
+    } else if (&control == &cmdNext) {
+        onNodeClicked(focused < last ? focused + 1 : 0);
+    } else if (&control == &cmdCancel) {
+        values_.Cancelled = true;
+        values_.CancelCompanion = false;
+        close();
+    } else if (&control == &cmdSave) {
+        save();
+    }
+}
+
+void frmEdit::onNodeClicked(int position) {
+    if (Navigation.Nodes.empty()) return;
+    if (position < 0 || position >= static_cast<int>(Navigation.Nodes.size())) {
+        throw EventRefused("no navigation node " + std::to_string(position));
+    }
+    showPage(position);
+    if (!loading_) focus(dxTreeList1);
+}
+
+// The list moves its focus by itself, without going round at its ends; the page follows.
+void frmEdit::onNodeKey(int keyCode) {
+    if (keyCode != keyUp && keyCode != keyDown) return;
+    const int last = static_cast<int>(Navigation.Nodes.size()) - 1;
+    const int wanted = Navigation.FocusedNode + (keyCode == keyUp ? -1 : 1);
+    onNodeClicked(std::clamp(wanted, 0, std::max(last, 0)));
+}
+
+void frmEdit::onMousePressed(EditorControl& control, int button) {
+    if (button != rightButton) return;
+    for (const EditorControl* field : {&dxExt, &dxSize, &dxName, &dxSource, &dxDest}) {
+        if (&control == field) control.SuppressContextMenu = true;
+    }
+}
+
+void frmEdit::onFocused(EditorControl& control) {
+    focus(control);
+}
+
+void frmEdit::onTimer() {
+    if (!timerRunning_) return;
+    checkPaths();
+    const auto finding = CheckSchedule(*this, platform_.clock.now());
+    lblChkTimeMsg.Caption = finding ? FindingText(ini_, *finding) : std::string{};
+    lblChkTimeMsg.Visible = finding.has_value();
+    timerRunning_ = false;
+}
+
+void frmEdit::onCloseBox() {
+    close();
+}
+
+void frmEdit::focus(EditorControl& control) {
+    FocusedControl = &control;
+}
+
+void frmEdit::showPage(int position) {
+    Navigation.FocusedNode = position;
+    ShowNodePage(*this);
+}
+
+}  // namespace kestedit

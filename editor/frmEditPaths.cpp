@@ -1,0 +1,83 @@
+// The path fields of frmEdit: choosing and creating folders, and the check of what stands in them.
+#include <array>
+#include <string>
+
+#include "editor/ChangeRules.h"
+#include "editor/Findings.h"
+#include "editor/dlgNewFolder.h"
+#include "editor/frmEdit.h"
+#include "editor/modBrowseFolders.h"
+
+namespace kestedit {
+
+namespace {
+
+/// A path field that names a folder: its place is the dialog's fMode.
+struct FolderField {
+    EditorControl FormModel::*field;
+    std::string_view titleKey;
+    std::string_view title;
+};
+
+constexpr std::array folderFields{
+    FolderField{&FormModel::dxSource, "t11", "Quellverzeichnis auswählen"},
+    FolderField{&FormModel::dxDest, "t12", "Zielverzeichnis auswählen"},
+    FolderField{&FormModel::dxMonitorPath, "t172", "Verzeichnis für Überwachung auswählen"},
+};
+
+int modeOf(const FormModel& form, const EditorControl& field) {
+    int mode = 0;
+    while (&(form.*folderFields.at(static_cast<std::size_t>(mode)).field) != &field)
+        ++mode;
+    return mode;
+}
+
+// Catalogue entries of the program chooser, and its patterns.
+constexpr std::size_t programTitle = 83;
+constexpr std::size_t programFilter = 84;
+constexpr std::string_view programPatterns = " (*.exe, *.com, *.bat)|*.exe;*.com;*.bat";
+constexpr unsigned hideReadOnlyBox = 4;
+constexpr unsigned fileMustExist = 4096;
+
+}  // namespace
+
+void frmEdit::browsePath(EditorControl& control) {
+    const FolderField& field = folderFields.at(static_cast<std::size_t>(modeOf(*this, control)));
+    const std::string title = ini_.ReadLanguageText("Messages", field.titleKey, field.title, textSize) + ":";
+    const std::string folder =
+        BrowseForFolder(platform_.prompts, title, control.text(), true, std::nullopt, true, false);
+    if (folder.empty()) return;
+    if (!platform_.ini.codePage().encode(folder)) throw EventRefused(UnstorableText(ini_, folder));
+    control.EditValue = folder;
+    control.ToolTipText = folder;
+    changed(control);
+    checkPaths();
+}
+
+void frmEdit::createFolder(EditorControl& control) {
+    fMode = modeOf(*this, control);
+    dlgNewFolder dialog(*this, ini_, values_.AppTitle, platform_);
+    dialog.Load();
+    platform_.prompts.runNewFolder(dialog);
+    changed(control);
+    checkPaths();
+}
+
+void frmEdit::browseExecPath(int button) {
+    if (button != 0) return;
+    const auto file = platform_.prompts.chooseFile({TextCatalogue[programTitle],
+                                                    TextCatalogue[programFilter] + std::string{programPatterns}, 1,
+                                                    hideReadOnlyBox | fileMustExist});
+    if (!file) return;
+    if (!platform_.ini.codePage().encode(*file)) throw EventRefused(UnstorableText(ini_, *file));
+    dxExecPath.EditValue = *file;
+    changed(dxExecPath);
+}
+
+void frmEdit::checkPaths() {
+    const auto finding = CheckPaths(*this, platform_.files);
+    lblChkPathMsg.Caption = finding ? FindingText(ini_, *finding, *this) : std::string{};
+    lblChkPathMsg.Visible = finding.has_value();
+}
+
+}  // namespace kestedit
