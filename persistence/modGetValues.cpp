@@ -92,10 +92,10 @@ void pick(EditorControl& list, std::int64_t position) {
     list.EditValue = known ? list.Items[static_cast<std::size_t>(position)] : std::string{};
 }
 
+// The same for positions that count from 1.
 void pickFromOne(const Loading& load, const JobRow& row) {
-    if (const auto position = numberIn(load.field(row)); position && *position >= 1) {
-        pick(load.control(row), *position - 1);
-    }
+    const auto position = numberIn(load.field(row));
+    if (position) pick(load.control(row), std::max<std::int64_t>(*position, 0) - 1);
 }
 
 void loadCompressionLevel(const Loading& load, const JobRow& row) {
