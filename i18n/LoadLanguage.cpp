@@ -44,7 +44,9 @@ class Section {
     Section(const modIniHandler& texts, std::string_view name) : texts_(texts), name_(name) {}
 
     [[nodiscard]] std::string text(int key, std::string_view german = {}) const {
-        return texts_.ReadLanguageText(name_, "t" + std::to_string(key), german, textSize);
+        std::string name{'t'};
+        name += std::to_string(key);
+        return texts_.ReadLanguageText(name_, name, german, textSize);
     }
 
   private:
