@@ -22,24 +22,20 @@ struct FolderFindings {
     PathFinding empty;
     PathFinding missing;
     PathFinding unusable;
-    PathFinding noAnswer;
     bool FolderStatus::*usable;
 };
 
 constexpr FolderFindings sourceFindings{PathFinding::noSource, PathFinding::sourceMissing,
-                                        PathFinding::sourceUnreadable, PathFinding::sourceNoAnswer,
-                                        &FolderStatus::readable};
+                                        PathFinding::sourceUnreadable, &FolderStatus::readable};
 constexpr FolderFindings destinationFindings{PathFinding::noDestination, PathFinding::destinationMissing,
-                                             PathFinding::destinationNotWritable, PathFinding::destinationNoAnswer,
-                                             &FolderStatus::writable};
+                                             PathFinding::destinationNotWritable, &FolderStatus::writable};
 constexpr FolderFindings monitoredFindings{PathFinding::noMonitored, PathFinding::monitoredMissing,
-                                           PathFinding::monitoredUnreadable, PathFinding::monitoredNoAnswer,
-                                           &FolderStatus::readable};
+                                           PathFinding::monitoredUnreadable, &FolderStatus::readable};
 
 std::optional<PathFinding> judge(const EditorControl& field, const FolderStatus& status,
                                  const FolderFindings& findings) {
     if (field.isEmpty()) return findings.empty;
-    if (!status.answered) return findings.noAnswer;
+    if (!status.answered) return PathFinding::noAnswer;
     if (!status.exists) return findings.missing;
     if (!(status.*findings.usable)) return findings.unusable;
     return std::nullopt;

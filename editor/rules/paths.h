@@ -33,9 +33,7 @@ enum class PathFinding {
     monitoredMissing,
     monitoredUnreadable,
     sourceNotWritable,  ///< and the job deletes files there, or writes to it
-    sourceNoAnswer,
-    destinationNoAnswer,
-    monitoredNoAnswer
+    noAnswer
 };
 
 /// Looks at source, destination (when the action has one) and monitored folder (when the schedule uses it). The whole look
