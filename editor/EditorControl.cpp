@@ -42,7 +42,11 @@ EditorControl::EditorControl(ControlRegistry& registry, ControlKind kind, std::s
 
 std::string EditorControl::Name() const {
     std::string name{Base};
-    if (Member >= 0) name += "(" + std::to_string(Member) + ")";
+    if (Member >= 0) {
+        name += '(';
+        name += std::to_string(Member);
+        name += ')';
+    }
     return name;
 }
 
