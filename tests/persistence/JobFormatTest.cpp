@@ -47,6 +47,21 @@ TEST(JobFormatTest, StoresEveryControlThatAUserFills) {
     }
 }
 
+// Authors of runners read the document, not the code.
+TEST(JobFormatTest, TheDocumentListsTheSameKeysInTheSameOrder) {
+    const auto document = std::filesystem::path(__FILE__).parent_path() / "../../docs/job-file.md";
+    const std::string text = bytesOf(document);
+    std::string listed;
+    const std::regex row{R"(\n\| `(\w+)` \| (?:`([^`]*)`)?)"};
+    for (std::sregex_iterator found{text.begin(), text.end(), row}, end; found != end; ++found) {
+        listed += found->str(1) + " " + found->str(2) + "\n";
+    }
+    std::string expected;
+    for (const JobRow& line : jobFormat())
+        expected.append(line.key).append(" ").append(line.control).append("\n");
+    EXPECT_EQ(listed, expected);
+}
+
 TEST(JobFormatTest, VersionHasTwoDigitsBehindEachPoint) {
     EXPECT_TRUE(std::regex_match(std::string{programVersion()}, std::regex{R"([1-9]\d*\.\d\d\.\d\d)"}))
         << programVersion();

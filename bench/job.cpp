@@ -1,0 +1,133 @@
+// What loading and saving a full job costs, beside the floor: the same bytes written, synced and renamed by bare calls.
+// KESTEDIT_BENCH_DIR chooses the folder (a memory file system tells most, a disk adds its own noise).
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <fcntl.h>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+#include <string>
+#include <thread>
+#include <unistd.h>
+
+#include "persistence/JobStore.h"
+#include "persistence/modGetValues.h"
+#include "persistence/modSaveValues.h"
+#include "tests/persistence/FilledForm.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using namespace kestedit;
+
+const DateFormat dates{"dd.MM.yyyy"};
+const LocalTime now{dateOf(2026, 11, 21), std::chrono::hours{14}};
+
+/// A folder with one full job, gone when the program ends.
+class JobFolder {
+  public:
+    JobFolder() {
+        const char* chosen = std::getenv("KESTEDIT_BENCH_DIR");
+        std::string pattern =
+            (chosen == nullptr ? fs::temp_directory_path() : fs::path(chosen)) / "kestedit-bench-XXXXXX";
+        if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no folder for the job");
+        path_ = pattern;
+        FilledForm form;
+        form.fill();
+        IniStore ini;
+        JobStore{ini}.write(job(), SaveValues(form, dates, now), JobStore::Write::create);
+        // A store reads a file that has just changed anew every time; files in use are older than that.
+        std::this_thread::sleep_for(std::chrono::milliseconds{100});
+    }
+    ~JobFolder() {
+        std::error_code ignored;
+        fs::remove_all(path_, ignored);
+    }
+    JobFolder(const JobFolder&) = delete;
+    JobFolder& operator=(const JobFolder&) = delete;
+
+    [[nodiscard]] fs::path job() const { return path_ / "full.job"; }
+
+  private:
+    fs::path path_;
+};
+
+void loadInto(FormModel& form, const JobStore& jobs, const fs::path& file) {
+    const auto job = jobs.read(file);
+    if (!job) throw std::runtime_error("no job in " + file.string());
+    GetAction(form, *job);
+    GetValues(form, *job, job->field("Comment").value_or(""), dates, now.date);
+}
+
+// From the disk to the controls, by a store that has never seen the file.
+void loadJob(benchmark::State& state) {
+    const JobFolder folder;
+    const fs::path file = folder.job();
+    FilledForm form;
+    for (auto _ : state) {
+        IniStore ini;
+        loadInto(form, JobStore{ini}, file);
+    }
+}
+BENCHMARK(loadJob);
+
+// The same while the file does not change.
+void loadJobAgain(benchmark::State& state) {
+    const JobFolder folder;
+    const fs::path file = folder.job();
+    FilledForm form;
+    IniStore ini;
+    const JobStore jobs{ini};
+    for (auto _ : state)
+        loadInto(form, jobs, file);
+}
+BENCHMARK(loadJobAgain);
+
+// The form's part of a save.
+void collectLines(benchmark::State& state) {
+    FilledForm form;
+    form.fill();
+    for (auto _ : state)
+        benchmark::DoNotOptimize(SaveValues(form, dates, now));
+}
+BENCHMARK(collectLines);
+
+// From the controls to the disk, over the job that is there.
+void saveJob(benchmark::State& state) {
+    const JobFolder folder;
+    const fs::path file = folder.job();
+    FilledForm form;
+    form.fill();
+    IniStore ini;
+    const JobStore jobs{ini};
+    for (auto _ : state)
+        jobs.write(file, SaveValues(form, dates, now), JobStore::Write::update);
+}
+BENCHMARK(saveJob)->UseRealTime();
+
+// Durable replacement takes these calls at least, and a sync of the folder when `withFolder`, as a save of the editor
+// does.
+void replaceBytes(benchmark::State& state, bool withFolder) {
+    const JobFolder folder;
+    const fs::path file = folder.job();
+    const fs::path temporary = file.string() + ".tmp";
+    std::ifstream in(file, std::ios::binary);
+    const std::string bytes{std::istreambuf_iterator<char>(in), {}};
+    for (auto _ : state) {
+        const int fd = ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+        const bool written = fd >= 0 && ::write(fd, bytes.data(), bytes.size()) == std::ssize(bytes) &&
+                             ::fsync(fd) == 0 && ::close(fd) == 0 && std::rename(temporary.c_str(), file.c_str()) == 0;
+        if (!written) throw std::runtime_error("cannot replace " + file.string());
+        if (!withFolder) continue;
+        const int parent = ::open(file.parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        if (parent < 0 || ::fsync(parent) != 0 || ::close(parent) != 0)
+            throw std::runtime_error("cannot sync the folder");
+    }
+}
+BENCHMARK_CAPTURE(replaceBytes, floor, false)->UseRealTime();
+BENCHMARK_CAPTURE(replaceBytes, floorWithFolderSync, true)->UseRealTime();
+
+}  // namespace
