@@ -1,0 +1,68 @@
+#include "host/EditorSession.h"
+
+#include <system_error>
+#include <utility>
+
+#include "component/clsEdit.h"
+#include "host/LanguageFile.h"
+#include "host/ScriptText.h"
+
+namespace kestedit {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::unique_ptr<Clock> makeClock(const std::optional<LocalTime>& moment) {
+    if (moment) return std::make_unique<FixedClock>(*moment);
+    return std::make_unique<SystemClock>();
+}
+
+}  // namespace
+
+EditorSession::EditorSession(EditorOptions options, Prompts& prompts)
+    : options_(std::move(options)),
+      ini_(CodePage(options_.codePage)),
+      clock_(makeClock(options_.now)),
+      dates_(options_.dateFormat ? *options_.dateFormat : DateFormat::ofUserLocale()),
+      settings_(userFolders().config / "user.ini"),
+      platform_{ini_, files_, *clock_, dates_, prompts, settings_} {
+    if (options_.jobFile) static_cast<void>(ini_.open(*options_.jobFile));
+}
+
+void EditorSession::show(ModalRun& driver) {
+    clsEdit editor(platform_, driver);
+    editor.JobFile(options_.jobFile.value_or(""));
+    editor.Mode(options_.jobFile ? "Edit" : "New");
+    editor.View(options_.view);
+    editor.AppTitle(options_.title);
+    editor.JobDir(jobFolder());
+    editor.INIFile(settingsFile());
+    editor.Language(options_.language.value_or(userLanguageFile().string()));
+    editor.JobExtension(options_.extension);
+    editor.HelpFile(options_.helpFile);
+
+    event_ = "none";
+    editor.SetNewValues = [this](std::string& text) { event_ = "SetNewValues " + quotedText(text); };
+    editor.SearchJobs = [this] { event_ = "SearchJobs"; };
+    editor.Show(options_.view);
+}
+
+std::string EditorSession::jobFolder() const {
+    if (options_.jobDir) return *options_.jobDir;
+    if (options_.jobFile) return fs::path(*options_.jobFile).parent_path().string();
+    const fs::path folder = userFolders().data;
+    fs::create_directories(folder);
+    return folder.string();
+}
+
+std::string EditorSession::settingsFile() const {
+    if (options_.settings) return *options_.settings;
+    const fs::path folder = userFolders().config;
+    // Settings that cannot be kept are no reason to keep the user from a job.
+    std::error_code ignored;
+    fs::create_directories(folder, ignored);
+    return (folder / "program.ini").string();
+}
+
+}  // namespace kestedit
