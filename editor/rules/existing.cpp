@@ -64,7 +64,7 @@ void ApplyExist(FormModel& form) {
     ApplyRenameScheme(form);
     SetApplies(form, form.dxPickExistSelecter, replacesOnCondition(form));
     SetAllApply(form, comparesTimes(form), form.lblExistTime, form.optExtFileTime);
-    if (copiesOrMoves(form)) ApplyFolderStructure(form);
+    ApplyFolderStructure(form);
 }
 
 void ApplyExistingFilesPage(FormModel& form) {

@@ -90,8 +90,8 @@ class PathCheck {
             compare();
         }
         if (watchesOwnFolder(form_)) look(form_.dxMonitorPath, monitoredFindings);
-        const bool known = source.answered && source.exists;
-        if (known && !source.writable && changesSource(form_)) found_.push_back(PathFinding::sourceNotWritable);
+        const bool writable = !source.answered || source.writable;
+        if (!writable && changesSource(form_)) found_.push_back(PathFinding::sourceNotWritable);
         // The enumerators stand in the order in which findings are shown.
         return found_.empty() ? std::nullopt : std::optional{std::ranges::min(found_)};
     }
@@ -103,8 +103,8 @@ class PathCheck {
         return status;
     }
 
+    /// An empty path compares as the folder of all others, which does no harm: that it is empty is shown first.
     void compare() {
-        if (form_.dxSource.isEmpty() || form_.dxDest.isEmpty()) return;
         const fs::path source = files_.resolve(form_.dxSource.text(), patience());
         const fs::path destination = files_.resolve(form_.dxDest.text(), patience());
         note(compareFolders(source, destination));

@@ -22,21 +22,24 @@ void applyBoth(FormModel& form) {
 
 TEST(AttributeRules, EachPlaceHasAttributesOnlyWhereFilesStay) {
     for (const bool disable : {false, true}) {
-        for (const int set : {0, 1}) {
+        for (const int sets : {0, 1, 2, 3}) {
             RuleForm form(disable);
-            form.choose("optAttrSetSource", set);
-            form.choose("optAttrSetDest", set);
+            const bool setSource = sets & 1;
+            const bool setDest = sets & 2;
+            form.choose("optAttrSetSource", setSource);
+            form.choose("optAttrSetDest", setDest);
             for (const int action : {2, 0, 3, 1, 4, 5, 2}) {
                 form.act(static_cast<Action>(action));
                 applyBoth(form);
                 const bool source = action != 2;
                 const bool destination = action != 2 && action != 3;
                 EXPECT_EQ(form.applying(sourceChoice), source ? sourceChoice : "") << action;
-                EXPECT_EQ(form.applying(sourceBoxes), source && set ? sourceBoxes : "") << action;
+                EXPECT_EQ(form.applying(sourceBoxes), source && setSource ? sourceBoxes : "") << action;
                 EXPECT_EQ(form.applying(destChoice), destination ? destChoice : "") << action;
-                EXPECT_EQ(form.applying(destBoxes), destination && set ? destBoxes : "") << action;
+                EXPECT_EQ(form.applying(destBoxes), destination && setDest ? destBoxes : "") << action;
                 EXPECT_EQ(form.applying(excluded), excluded) << action;
-                EXPECT_EQ(form.mark(Page::attributes), source && set ? "8" : "") << action;
+                EXPECT_EQ(form.mark(Page::attributes), (source && setSource) || (destination && setDest) ? "8" : "")
+                    << action;
             }
         }
     }

@@ -169,7 +169,10 @@ TEST_F(PathRules, RightsAreMissedWhereTheJobNeedsThem) {
 TEST_F(PathRules, SilentFolderIsReportedUnlessSomethingElseIsWrong) {
     const FolderStatus silent{false, false, false, false};
     files_.odd = {{path("dead"), silent}};
-    EXPECT_EQ(check("dead", "data"), PathFinding::noAnswer);
+    for (const auto action : {Action::copy, Action::move}) {
+        form_.act(action);
+        EXPECT_EQ(check("dead", "data"), PathFinding::noAnswer);
+    }
     EXPECT_EQ(check("data", "dead"), PathFinding::noAnswer);
     EXPECT_EQ(check("dead", "gone"), PathFinding::destinationMissing);
 }

@@ -42,6 +42,10 @@ TEST_P(ScheduleRules, DayEditorFollowsTheKindOfTime) {
         ApplyIntTime(form);
         EXPECT_EQ(form.applying(dayEditors), expected[kind]);
         EXPECT_EQ(form.applying("dxDateTime"), "dxDateTime");
+        RuleForm atIntervals(GetParam());
+        atIntervals.choose("optIntTime", kind);
+        ApplyIntTime(atIntervals);
+        EXPECT_EQ(atIntervals.applying("dxDateTime " + dayEditors), "");
     }
 }
 
