@@ -44,7 +44,7 @@ class Folder {
     Folder& operator=(const Folder&) = delete;
 
     [[nodiscard]] fs::path file(const std::string& name, const std::string& bytes) const {
-        const fs::path path = path_ / name;
+        fs::path path = path_ / name;
         std::ofstream(path, std::ios::binary) << bytes;
         letAge();
         return path;
@@ -61,17 +61,18 @@ const Folder& folder() {
 
 std::vector<std::string> names(const std::string& prefix, int count) {
     std::vector<std::string> names;
+    names.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i)
         names.push_back(prefix + std::to_string(i));
     return names;
 }
 
-/// 230 texts of about 45 bytes.
+/// 230 texts, 12 KB.
 const fs::path& languageFile() {
     static const fs::path path = [] {
         std::string bytes = "; language file\r\n[frmEdit]\r\n";
         for (const std::string& name : names("t", 230))
-            bytes += name + "=Text " + name + " of the editor, with a few words more\r\n";
+            bytes.append(name).append("=Text of the editor, and with a few words more\r\n");
         return folder().file("language.lng", bytes);
     }();
     return path;
@@ -82,7 +83,7 @@ const fs::path& jobFile() {
     static const fs::path path = [] {
         std::string bytes = "[Info]\r\nProgVersion=1.00.00\r\n[Job]\r\n";
         for (const std::string& name : names("ZipKeyName", 125))
-            bytes += name + "=value of " + name.substr(7) + "\r\n";
+            bytes.append(name).append("=value of this key\r\n");
         return folder().file("job.job", bytes);
     }();
     return path;
@@ -90,7 +91,7 @@ const fs::path& jobFile() {
 
 /// Lines of 23 bytes, 100 to a section. Written line by line, because peak memory is measured.
 fs::path largeFile(std::int64_t keys) {
-    const fs::path path = folder().file("large" + std::to_string(keys) + ".ini", "");
+    fs::path path = folder().file("large" + std::to_string(keys) + ".ini", "");
     std::ofstream stream(path, std::ios::binary);
     for (std::int64_t i = 0; i < keys; ++i) {
         if (i % 100 == 0) stream << "[Section" << i / 100 << "]\n";

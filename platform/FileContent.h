@@ -29,7 +29,7 @@ class FileContent {
     static constexpr std::size_t maximumSize = std::size_t{64} << 20U;
 
     /// Never waits: what is no regular file (a folder, a FIFO, a device) is refused at once. Throws std::system_error.
-    [[nodiscard]] static FileContent read(const std::filesystem::path& file);
+    [[nodiscard]] static FileContent read(const std::filesystem::path& path);
 
     [[nodiscard]] std::string_view bytes() const { return {bytes_.get(), size_}; }
     [[nodiscard]] const FileIdentity& identity() const { return identity_; }

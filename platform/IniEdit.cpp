@@ -1,7 +1,6 @@
 #include "platform/IniEdit.h"
 
 #include <algorithm>
-#include <iterator>
 #include <optional>
 #include <tuple>
 #include <utility>
@@ -111,18 +110,20 @@ std::string_view IniEdit::text(Stretch stretch) const {
 }
 
 std::vector<IniEdit::Replacement> IniEdit::replacementsInOrder() const {
-    std::vector<Replacement> ordered = replacements_;
+    std::vector<Replacement> sorted = replacements_;
     const auto byPlace = [](const Replacement& left, const Replacement& right) {
         return left.place.begin < right.place.begin;
     };
-    std::ranges::stable_sort(ordered, byPlace);
-    // Of several values for one key the last one set comes last.
-    const auto isOutdated = [&](const Replacement& entry) {
-        return &entry != &ordered.back() && (&entry)[1].place.begin == entry.place.begin;
-    };
-    std::vector<Replacement> valid;
-    std::ranges::remove_copy_if(ordered, std::back_inserter(valid), isOutdated);
-    return valid;
+    std::ranges::stable_sort(sorted, byPlace);
+    std::vector<Replacement> ordered;
+    ordered.reserve(sorted.size());
+    for (const Replacement& replacement : sorted) {
+        // Of several values for one key the one set last holds.
+        const bool isNewer = !ordered.empty() && ordered.back().place.begin == replacement.place.begin;
+        if (isNewer) ordered.pop_back();
+        ordered.push_back(replacement);
+    }
+    return ordered;
 }
 
 std::vector<IniEdit::NewLine> IniEdit::newLinesInOrder() const {

@@ -17,7 +17,7 @@ namespace kestedit {
 
 /// Reads and writes INI files by section and key.
 ///
-/// A file is read once for as long as it does not change on disk (device, inode, size, modification time); after that a
+/// A file is read once for as long as it does not change on disk (device, inode, size, times of change); after that a
 /// read by key is a hash look-up. Names compare without regard to case in the whole code page, the first section of a
 /// name and the first key of a name count. docs/ini.md lists the rules of the format.
 class IniStore {

@@ -103,8 +103,8 @@ class IniText {
     };
 
     void indexSections();
-    const Keys& keysOf(std::size_t section) const;
-    [[nodiscard]] std::size_t lineEndFrom(std::size_t offset) const;
+    const Keys& keysOf(std::size_t number) const;
+    [[nodiscard]] std::size_t lineEndFrom(std::size_t place) const;
     [[nodiscard]] std::optional<KeyLine> keyLine(std::size_t begin, std::size_t end) const;
     [[nodiscard]] bool isNamed(std::string_view name, std::string_view folded) const;
     [[nodiscard]] std::string_view fold(std::string_view name) const;

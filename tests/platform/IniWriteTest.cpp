@@ -141,6 +141,7 @@ class LineModel {
     }
 
     void set(const std::string& section, const std::string& key, const std::string& value) {
+        const std::string keyLine = key + '=' + value + '\n';
         std::size_t line = 0;
         while (line < lines_.size() && lines_[line] != '[' + section + "]\n")
             ++line;
@@ -149,12 +150,12 @@ class LineModel {
         for (; line < lines_.size() && lines_[line].front() != '['; ++line) {
             if (lines_[line].front() == ';' || lines_[line].find('=') == std::string::npos) continue;
             if (lines_[line].starts_with(key + '=')) {
-                lines_[line] = key + '=' + value + '\n';
+                lines_[line] = keyLine;
                 return;
             }
             insertion = line + 1;
         }
-        lines_.insert(lines_.begin() + static_cast<std::ptrdiff_t>(insertion), key + '=' + value + '\n');
+        lines_.insert(lines_.begin() + static_cast<std::ptrdiff_t>(insertion), keyLine);
     }
 
     [[nodiscard]] std::string text() const {

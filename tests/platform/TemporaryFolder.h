@@ -33,7 +33,7 @@ class TemporaryFolder {
 
     /// Writes `bytes` as they are and returns the file's path.
     std::filesystem::path file(const std::string& name, std::string_view bytes) const {
-        const std::filesystem::path path = path_ / name;
+        std::filesystem::path path = path_ / name;
         std::ofstream(path, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
         return path;
     }
