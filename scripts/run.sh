@@ -19,7 +19,7 @@ kestedit=$root/build/release/host/kestedit
 jobs=$root/build/sample
 rm -rf "$jobs"
 mkdir -p "$jobs"
-"$kestedit" script --job-dir "$jobs" new "$root/samples/new.script"
+"$kestedit" script --job-dir "$jobs" new "$root/samples/create.script"
 for job in "$jobs"/*.job; do
     printf '\nThe job file %s:\n\n' "$job"
     iconv -f CP1252 -t UTF-8 "$job" | tr -d '\r'
