@@ -131,3 +131,5 @@ BENCHMARK_CAPTURE(replaceBytes, floor, false)->UseRealTime();
 BENCHMARK_CAPTURE(replaceBytes, floorWithFolderSync, true)->UseRealTime();
 
 }  // namespace
+
+BENCHMARK_MAIN();

@@ -46,8 +46,8 @@ class JobStore {
     /// std::system_error and leaves the old file when anything fails.
     void write(const std::filesystem::path& file, std::span<const JobLine> lines, Write mode) const;
 
-    /// Writes a new file and takes the old one away, so that at every instant one of both names holds a whole job. Throws
-    /// std::system_error with the old file in place when anything fails. A missing old file is no failure.
+    /// Writes a new file and takes the old one away, so that at every instant one of both names holds a whole job.
+    /// Throws std::system_error with the old file in place when anything fails. A missing old file is no failure.
     void rename(const std::filesystem::path& from, const std::filesystem::path& to,
                 std::span<const JobLine> lines) const;
 

@@ -14,8 +14,9 @@ namespace kestedit {
 /// Selects the job's action, and nothing else: the action's rule runs next, so that the values that follow stand.
 void GetAction(FormModel& form, const JobRecord& job);
 
-/// Copies every other value. A date that is missing or does not read under `dates` is replaced (DateFrom by yesterday, the
-/// others by today); for one that does not read, DateFormatChanged is set. `comment` is the stored text of that key.
+/// Copies every other value. A date that is missing or does not read under `dates` is replaced (DateFrom by yesterday,
+/// the others by today); for one that does not read, DateFormatChanged is set. `comment` is the stored text of that
+/// key.
 void GetValues(FormModel& form, const JobRecord& job, std::string comment, const DateFormat& dates, Date today);
 
 /// The notice for DateFormatChanged.

@@ -11,8 +11,8 @@
 
 namespace kestedit {
 
-/// Reads cut a value to `size - 1` bytes of the code page and give the default for what is missing or unreadable. Writes
-/// are silent about failures; IniStore::lastError tells what the last one came to.
+/// Reads cut a value to `size - 1` bytes of the code page and give the default for what is missing or unreadable.
+/// Writes are silent about failures; IniStore::lastError tells what the last one came to.
 class modIniHandler {
   public:
     /// Both must outlive the handler. The paths of `values` are looked up at each call.
