@@ -1,0 +1,85 @@
+#include <gtest/gtest.h>
+
+#include "host/ScriptEvents.h"
+#include "host/ScriptFailure.h"
+#include "host/ScriptParser.h"
+#include "host/ScriptText.h"
+
+namespace kestedit {
+
+namespace {
+
+using namespace std::string_literals;
+using Words = std::vector<std::string>;
+
+/// The first line that fails and why, as "LINE: REASON"; empty when none does.
+std::string failureOf(std::string_view script) {
+    try {
+        static_cast<void>(compileScript(parseScript(script)));
+        return "";
+    } catch (const ScriptFailure& failure) {
+        return std::to_string(failure.line()) + ": " + failure.what();
+    }
+}
+
+TEST(ScriptParser, SplitsLinesIntoWords) {
+    const auto lines = parseScript(
+        "\xEF\xBB\xBF# a byte order mark and a comment\r\n"
+        "\ttype  dxName \"a b\" # more\r\n"
+        "\n"
+        "folder C:\\new#1\t\"\"\n"
+        "print \"#\"");
+    ASSERT_EQ(lines.size(), 3U);
+    EXPECT_EQ(lines[0].number, 2);
+    EXPECT_EQ(lines[0].words, (Words{"type", "dxName", "a b"}));
+    EXPECT_EQ(lines[1].number, 4);
+    EXPECT_EQ(lines[1].words, (Words{"folder", "C:\\new#1", ""}));
+    EXPECT_EQ(lines[2].number, 5);
+    EXPECT_EQ(lines[2].words, (Words{"print", "#"}));
+}
+
+TEST(ScriptParser, ReadsBackWhatIsPrinted) {
+    for (const std::string& text :
+         {""s, "a \"b\" \\n"s, "1\r\n2\t3"s, "# no comment"s, "Größe 字 \x01"s, "\0nul"s, "\\"s}) {
+        const auto lines = parseScript("type dxName " + quotedText(text));
+        ASSERT_EQ(lines.size(), 1U);
+        EXPECT_EQ(lines[0].words, (Words{"type", "dxName", text})) << quotedText(text);
+    }
+    EXPECT_EQ(quotedText("caf\xE9"), "\"caf\xEF\xBF\xBD\"");  // what is printed is UTF-8, whatever a path holds
+}
+
+TEST(ScriptParser, NamesTheLineOfABrokenWord) {
+    EXPECT_EQ(failureOf("timer\ntype dxName \"a\n"), "2: a closing quote is missing");
+    EXPECT_EQ(failureOf("type dxName \"a\\\""), "1: a closing quote is missing");
+    EXPECT_EQ(failureOf("type dxName \"a\\"), "1: a closing quote is missing");
+    EXPECT_EQ(failureOf("type dxName \"a\\x\""), "1: a backslash in quotes takes \", \\, r, n or t behind it");
+    EXPECT_EQ(failureOf("type dxName \"a\"b"), "1: a blank is missing behind a closing quote");
+    EXPECT_EQ(failureOf("type dxName a\"b"), "1: a quote inside a word: put the whole word in quotes and write \\\"");
+    EXPECT_EQ(failureOf("# \xE4\n"), "1: the line is not UTF-8");
+}
+
+TEST(ScriptParser, ChecksVerbsAndArgumentsBeforeAnythingRuns) {
+    EXPECT_EQ(failureOf("timer\nTimer"), "2: unknown event \"Timer\"");
+    EXPECT_EQ(failureOf("type dxName a b"), "1: write type CONTROL TEXT");
+    EXPECT_EQ(failureOf("close now"), "1: write close");
+    EXPECT_EQ(failureOf("check chkPreview 3"), "1: check: \"3\" is not 0, 1 or 2");
+    EXPECT_EQ(failureOf("choose optAction -1"), "1: choose: \"-1\" is not an index from 0");
+    EXPECT_EQ(failureOf("number dxDays 9223372036854775808"),
+              "1: number: \"9223372036854775808\" is not a whole number");
+    EXPECT_EQ(failureOf("number dxDays 5x"), "1: number: \"5x\" is not a whole number");
+    EXPECT_EQ(failureOf("spin dxDays left"), "1: spin: \"left\" is not up or down");
+    EXPECT_EQ(failureOf("answer maybe"), "1: answer: \"maybe\" is not ok, yes, no, cancel, retry or continue");
+    EXPECT_EQ(failureOf("print dxName"), "1: print: \"dxName\" is not a name, a dot and a property");
+    EXPECT_EQ(failureOf("print .State"), "1: print: \".State\" is not a name, a dot and a property");
+    EXPECT_EQ(failureOf("number dxDays -5\nset-date dxDate 2028-02-29\nset-time dxDateTime 23:59:59"), "");
+    for (const char* const date : {"2026-02-29", "2026-2-9", "26-02-09", "2026-02-09 ", "2026/02/09", "09.02.2026"}) {
+        EXPECT_NE(failureOf("set-date dxDate \""s + date + '"'), "") << date;
+    }
+    for (const char* const time : {"24:00:00", "14:05", "14:60:00", "1:05:00", "14:05:00Z"}) {
+        EXPECT_NE(failureOf("set-time dxDateTime "s + time), "") << time;
+    }
+}
+
+}  // namespace
+
+}  // namespace kestedit

@@ -1,0 +1,148 @@
+#include <regex>
+
+#include "tests/host/ProgramFixture.h"
+
+namespace kestedit {
+
+namespace {
+
+using ScriptTest = test::ProgramTest;
+
+TEST_F(ScriptTest, TheDocumentedExamplePrintsWhatItSays) {
+    const std::string lines =
+        "type dxName \"Night backup\"\n"
+        "choose optAction 3      # compress\n"
+        "check chkSubFolder 1\n"
+        "check chkZipAll 1\n"
+        "print chkZipAll.State\n"
+        "click cmdSave\n";
+    const std::string printed = "chkZipAll.State = 1\nevent SearchJobs\n";
+    const auto result = script("new", lines);
+    EXPECT_EQ(result.code, 0) << result.err;
+    EXPECT_EQ(result.out, printed);
+
+    const auto indented = [](const std::string& text) {
+        return std::regex_replace(text, std::regex("(.+\n)"), "    $1");
+    };
+    const std::string document = test::bytesOf(KESTEDIT_DOCS "/script.md");
+    EXPECT_NE(document.find(indented(lines)), std::string::npos);
+    EXPECT_NE(document.find(indented(printed)), std::string::npos);
+}
+
+TEST_F(ScriptTest, PrintsEveryFormOfValue) {
+    const auto result =
+        script("new",
+               "type dxComment \"a\\n\\\"b\\\"\"\nprint dxComment.EditValue\nprint dxDate.EditValue\n"
+               "print dxDateTime.EditValue\nprint dxHours.EditValue\nprint dxSize.EditValue\n"
+               "print cmdSave.Enabled\nprint optAction.State\nprint dxZipGrade.Items\n"
+               "print frmEdit.Caption\nprint frmEdit.PageNodeIndex(11)\nprint frmEdit.PageNodeIndex(99)\n"
+               "print frmEdit.InvalidExtChars\nprint frmEdit.FocusedControl\nframes\n");
+    EXPECT_EQ(result.code, 0) << result.err;
+    EXPECT_EQ(
+        result.out,
+        "dxComment.EditValue = \"a\\r\\n\\\"b\\\"\"\ndxDate.EditValue = 2026-11-21\n"
+        "dxDateTime.EditValue = 14:05:00\ndxHours.EditValue = 1\ndxSize.EditValue = Empty\n"
+        "cmdSave.Enabled = True\noptAction.State = 1\ndxZipGrade.Items = [\"None\", \"Low\", \"Normal\", \"High\"]\n"
+        "frmEdit.Caption = \"kestEdit - New job\"\nfrmEdit.PageNodeIndex(11) = 11\nfrmEdit.PageNodeIndex(99) = Empty\n"
+        "frmEdit.InvalidExtChars = False\nfrmEdit.FocusedControl = \"dxName\"\nfraComment\nevent none\n");
+}
+
+TEST_F(ScriptTest, ListsNodesAndTabsInTheirOrder) {
+    const auto nodes = script("--view 9 new", "key down\nnodes\n");
+    EXPECT_TRUE(nodes.out.starts_with("node 0 \"Job name and notes\" \"\"\nnode 1 \"Mode\" \"2\" *\nnode 2 \"Source"));
+    const auto tabs = script("new", "tabs\n");
+    EXPECT_TRUE(tabs.out.starts_with("dxTreeList1\ndxName\ndxComment\n"));
+    EXPECT_NE(tabs.out.find("cmdPrevious\ncmdNext\ncmdCancel\ncmdSave\nevent none\n"), std::string::npos);
+    const auto dump = script("new", "dump\n");
+    EXPECT_NE(dump.out.find("\noptAction(3).State = 0\noptAction(3).Enabled = True\n"), std::string::npos);
+}
+
+TEST_F(ScriptTest, EndsAtTheFirstLineThatFails) {
+    const struct {
+        const char* line;
+        const char* reason;
+    } cases[] = {
+        {"type dxFoo x", "no control named dxFoo"},
+        {"choose optAction 6", "no control named optAction(6)"},
+        {"choose dxName 0", "no control named dxName(0)"},
+        {"print dxName.Size", "dxName has no property Size"},
+        {"print frmEdit.TextCatalogue(85)", "frmEdit has no property TextCatalogue(85)"},
+        {"print frmEdit.TextCatalogue", "frmEdit has no property TextCatalogue"},
+        {"print frmEdit.Caption(0)", "frmEdit has no property Caption(0)"},
+        {"print dlgNewFolder.Caption", "dlgNewFolder is not open"},
+    };
+    for (const auto& [line, reason] : cases) {
+        const auto result = script("new", std::string("type dxName Night\n") + line + "\nclick cmdSave\n");
+        EXPECT_EQ(result.code, 1);
+        EXPECT_EQ(result.out, "event none\n");
+        EXPECT_EQ(result.err, std::string("kestedit: home/script:2: ") + reason + '\n');
+    }
+    for (const std::string line :
+         {"click chkPreview", "type chkPreview x", "node 13", "check dxName 1", "pick dxZipGrade x"}) {
+        EXPECT_EQ(script("new", line + '\n').code, 1) << line;
+    }
+    EXPECT_EQ(folder.names(), std::vector<std::string>{"home"});
+}
+
+TEST_F(ScriptTest, ABadLineIsFoundBeforeTheFormOpens) {
+    const auto result = script("new", "type dxName Night\nclick cmdSave\nbogus\n");
+    EXPECT_EQ(result.code, 1);
+    EXPECT_EQ(result.out, "event none\n");
+    EXPECT_EQ(result.err, "kestedit: home/script:3: unknown event \"bogus\"\n");
+    EXPECT_FALSE(std::filesystem::exists(folder.path() / "Night.job"));
+}
+
+TEST_F(ScriptTest, OnlyQueriesWorkAfterTheFormHasClosed) {
+    const auto result = script("new", "type dxName Night\nclick cmdSave\nprint frmEdit.JobFile\nclick cmdSave\n");
+    EXPECT_EQ(result.code, 1);
+    EXPECT_EQ(result.out, "frmEdit.JobFile = \"./Night.job\"\nevent SearchJobs\n");
+    EXPECT_EQ(result.err, "kestedit: home/script:4: the form has closed\n");
+}
+
+TEST_F(ScriptTest, TheEventTellsHowTheFormWasLeft) {
+    ASSERT_EQ(script("new", "type dxName Night\nclick cmdSave\n").code, 0);
+    EXPECT_EQ(script("edit Night.job", "").out, "event none\n");
+    EXPECT_EQ(script("edit Night.job", "click cmdCancel\n").out, "event none\n");
+    EXPECT_EQ(script("edit Night.job", "close\n").out, "event SetNewValues \"\"\n");
+    EXPECT_EQ(script("edit Night.job", "click cmdSave\n").out, "event SetNewValues \"\"\n");
+    EXPECT_EQ(script("edit Night.job", "type dxName Day\nclick cmdSave\n").out, "event SearchJobs\n");
+    EXPECT_EQ(folder.names(), (std::vector<std::string>{"Day.job", "home"}));
+}
+
+TEST_F(ScriptTest, AnswersAtTheHeadServeTheLoadingForm) {
+    static_cast<void>(folder.file("a.job", "[Job]\nName=a\nIntervalDate=2026/11/21\n"));
+    const auto unanswered = script("edit a.job", "timer\nanswer ok\n");
+    EXPECT_EQ(unanswered.code, 1);
+    EXPECT_EQ(unanswered.out, "event none\n");
+    EXPECT_TRUE(
+        unanswered.err.starts_with("kestedit: home/script: no answer is queued for message \"Information\" \"The da"));
+    const auto answered = script("edit a.job", "answer ok\nprint frmEdit.DateFormatChanged\n");
+    EXPECT_EQ(answered.code, 0) << answered.err;
+    EXPECT_NE(answered.out.find("[Ok] -> Ok\nfrmEdit.DateFormatChanged = True\n"), std::string::npos);
+}
+
+TEST_F(ScriptTest, EventsGoToTheDialogInFront) {
+    const std::string open = "type dxSource .\nbutton dxSource 1\n";
+    const auto created =
+        script("new", open +
+                          "print dlgNewFolder.Caption\nprint cmdCancel.TabIndex\nprint cmdSave.Visible\n"
+                          "type dxTextEdit1 sub\nclick cmdCreate\nprint dxSource.EditValue\n");
+    EXPECT_EQ(created.code, 0) << created.err;
+    EXPECT_NE(created.out.find("dxSource.EditValue = \"./sub\"\n"), std::string::npos) << created.out;
+    EXPECT_TRUE(std::filesystem::is_directory(folder.path() / "sub"));
+
+    const auto behind = script("new", open + "node 1\n");
+    EXPECT_EQ(behind.err, "kestedit: home/script:3: dlgNewFolder is in front of the form\n");
+    EXPECT_EQ(behind.out, "event none\n");
+    const auto exists = script("new", open + "type dxTextEdit1 sub\nclick cmdCreate\n");
+    EXPECT_EQ(
+        exists.err,
+        "kestedit: home/script:4: no answer is queued for message \"kestEdit\" \"Folder already exists.\" [Ok]\n");
+    EXPECT_EQ(script("new", open).code, 0);
+    EXPECT_EQ(script("new", open + "close\nprint frmEdit.SelectedAction\n").out,
+              "frmEdit.SelectedAction = 0\nevent none\n");
+}
+
+}  // namespace
+
+}  // namespace kestedit
