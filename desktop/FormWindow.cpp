@@ -1,0 +1,176 @@
+#include "desktop/FormWindow.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDesktopServices>
+#include <QLabel>
+#include <QScreen>
+#include <QScrollBar>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QTimer>
+#include <QUrl>
+#include <algorithm>
+#include <utility>
+
+#include "desktop/Icons.h"
+#include "desktop/Text.h"
+#include "desktop/pages/Pages.h"
+#include "desktop/widgets/NodeList.h"
+#include "desktop/widgets/PageArea.h"
+#include "editor/WindowTexts.h"
+
+namespace kestedit {
+
+namespace {
+
+/// Sets a flag for the time of a scope.
+class While {
+  public:
+    explicit While(bool& flag) : flag_(flag) { flag_ = true; }
+    ~While() { flag_ = false; }
+    While(const While&) = delete;
+    While& operator=(const While&) = delete;
+
+  private:
+    bool& flag_;
+};
+
+bool isPageFrame(const EditorControl& control) {
+    return control.Kind == ControlKind::frame && !control.Container;
+}
+
+}  // namespace
+
+FormWindow::FormWindow(frmEdit& form) : form_(form), memory_(form.platform().settings, form.ViewLevel), binder_(*this) {
+    setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinMaxButtonsHint |
+                   Qt::WindowCloseButtonHint);
+    setWindowModality(Qt::ApplicationModal);
+    setWindowIcon(programIcon());
+    buildFrame();
+    addShortcuts();
+    binder_.bind(*this);
+    recall();
+    refresh();
+    showFocus(nullptr);
+}
+
+FormWindow::~FormWindow() {
+    remember();
+}
+
+// ---- events
+
+std::optional<std::string> FormWindow::hand(const std::function<void(frmEdit&)>& event) {
+    // While a question stands in front, focus wanders without the user's doing.
+    if (handling_ || !form_.isOpen()) return std::nullopt;
+    const While handling(handling_);
+    const EditorControl* const focused = form_.FocusedControl;
+    PageArea* const area = currentPage();
+    QWidget* const anchor = area && area->isAncestorOf(focusWidget()) ? focusWidget() : nullptr;
+    const int place = anchor ? area->placeOf(*anchor) : 0;
+
+    std::optional<std::string> refusal;
+    try {
+        event(form_);
+    } catch (const EventRefused& refused) {
+        refusal = refused.what();
+    } catch (const std::exception& failure) {
+        refresh();
+        tellFailure(failure.what());
+    }
+    if (!form_.isOpen()) {
+        done(Accepted);
+        return refusal;
+    }
+    refresh();
+    if (anchor && area == currentPage() && anchor->isVisible()) area->bringBack(*anchor, place);
+    showFocus(focused);
+    return refusal;
+}
+
+void FormWindow::reject() {
+    hand([](frmEdit& form) { form.onCommand(form.cmdCancel); });
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+    hand([](frmEdit& form) { form.onCloseBox(); });
+    event->setAccepted(!form_.isOpen());
+}
+
+void FormWindow::changeEvent(QEvent* event) {
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && stack_) refresh();
+}
+
+void FormWindow::paintEvent(QPaintEvent* event) {
+    QDialog::paintEvent(event);
+    if (std::exchange(painted_, true)) return;
+    QTimer::singleShot(0, this, [this] { hand([](frmEdit& form) { form.onTimer(); }); });
+}
+
+void FormWindow::tellFailure(const std::string& reason) {
+    static_cast<void>(
+        form_.platform().prompts.showMessage({form_.values().AppTitle, reason, Buttons::ok, MessageIcon::error}));
+}
+
+void FormWindow::showHelp() {
+    if (handling_) return;
+    const std::string& file = form_.values().HelpFile;
+    if (!file.empty() && form_.platform().files.FileExists(file)) {
+        QDesktopServices::openUrl(QUrl::fromLocalFile(toQt(file)));
+        return;
+    }
+    const modIniHandler texts(form_.platform().ini, form_.values());
+    const std::string text = file.empty() ? windowText(texts, WindowText::noHelp)
+                                          : windowText(texts, WindowText::helpMissing) + "\r\n" + file;
+    static_cast<void>(
+        form_.platform().prompts.showMessage({form_.values().AppTitle, text, Buttons::ok, MessageIcon::information}));
+}
+
+// ---- showing
+
+void FormWindow::refresh() {
+    showFrontPage();
+    binder_.refresh();
+    if (const QString title = toQt(form_.Caption); windowTitle() != title) setWindowTitle(title);
+}
+
+void FormWindow::showFrontPage() {
+    const auto& controls = form_.controls();
+    const auto front = std::ranges::find_if(
+        controls, [](const EditorControl* control) { return isPageFrame(*control) && control->Visible; });
+    if (front == controls.end()) {
+        stack_->setCurrentIndex(0);
+        return;
+    }
+    PageArea& area = page(**front);
+    stack_->setCurrentWidget(&area);
+    if (auto* const heading = area.findChild<QLabel*>(QStringLiteral("pageHeading"))) {
+        const auto& list = form_.Navigation;
+        const QString title = toQt(list.Nodes.at(static_cast<std::size_t>(list.FocusedNode)).Title);
+        if (heading->text() != title) heading->setText(title);
+    }
+}
+
+PageArea* FormWindow::currentPage() const {
+    return qobject_cast<PageArea*>(stack_->currentWidget());
+}
+
+// The form moves the focus when it wants to; otherwise it hears where the toolkit has put it, for example because the
+// field that had it has been hidden.
+void FormWindow::showFocus(const EditorControl* before) {
+    const EditorControl* const wanted = form_.FocusedControl;
+    Binding* const present = binder_.bindingOf(focusWidget());
+    if (wanted && wanted != before) {
+        Binding* const target = binder_.bindingOf(*wanted);
+        if (!target || target == present || target->focusWidgets().empty()) return;
+        QWidget* const widget = target->focusWidgets().front();
+        widget->setFocus(Qt::OtherFocusReason);
+        if (PageArea* const area = currentPage(); area && area->isAncestorOf(widget)) area->ensureWidgetVisible(widget);
+    } else if (present && &present->control() != wanted) {
+        form_.onFocused(present->control());
+    }
+}
+
+}  // namespace kestedit

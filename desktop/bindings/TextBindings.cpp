@@ -1,0 +1,167 @@
+// Fields that hold text: one line, password, path, memo.
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QSignalBlocker>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QToolTip>
+
+#include "desktop/Text.h"
+#include "desktop/bindings/Kinds.h"
+#include "desktop/bindings/LineText.h"
+#include "desktop/widgets/NoticeLabel.h"
+#include "desktop/widgets/PasswordEdit.h"
+#include "desktop/widgets/PathEdit.h"
+#include "editor/PatternHint.h"
+#include "editor/WindowTexts.h"
+
+namespace kestedit {
+
+namespace {
+
+/// A text that the job file cannot hold is told right at the field.
+void showRefusal(const QWidget& field, const std::optional<std::string>& reason) {
+    if (reason) QToolTip::showText(field.mapToGlobal(QPoint(0, field.height())), toolTipText(*reason));
+}
+
+/// A line of text; the line may be a part of the widget.
+class LineBinding : public Binding {
+  public:
+    LineBinding(EditorControl& control, QWidget& widget, QLineEdit& line, EventGate& gate)
+        : Binding(control, widget, gate),
+          line_(line),
+          notice_(widget.parentWidget()->findChild<NoticeLabel*>(widget.objectName() + QLatin1String("_notice"))) {
+        QObject::connect(&line, &QLineEdit::textEdited, &line, [this](const QString& text) {
+            userChanged_ = true;
+            showRefusal(line_, this->gate().hand(
+                                   [this, &text](frmEdit& form) { form.onTextTyped(this->control(), fromQt(text)); }));
+            userChanged_ = false;
+        });
+        QObject::connect(&line, &QLineEdit::returnPressed, &line, [this] {
+            this->gate().hand([this](frmEdit& form) { form.onEditingFinished(this->control()); });
+        });
+    }
+
+    [[nodiscard]] std::vector<QWidget*> focusWidgets() const override { return {&line_}; }
+    [[nodiscard]] bool isField() const override { return true; }
+
+  protected:
+    void showReadOnly(bool readOnly) override { line_.setReadOnly(readOnly); }
+
+    void showContent() override {
+        const QString wanted = toQt(control().text());
+        if (first_) {
+            line_.setText(wanted);
+            line_.setCursorPosition(0);
+        } else if (line_.text() != wanted) {
+            userChanged_ ? replaceUserChange(line_, wanted) : replaceText(line_, wanted);
+        }
+        first_ = false;
+        showNotice();
+    }
+
+  private:
+    void showNotice() {
+        if (!notice_) return;
+        const QString problem = toQt(patternProblem(gate().form(), control(), texts()).value_or(std::string{}));
+        if (notice_->text() != problem) notice_->setText(problem);
+        notice_->setVisible(!problem.isEmpty());
+        line_.setAccessibleDescription(problem);
+    }
+
+    QLineEdit& line_;
+    NoticeLabel* const notice_;  // says what is wrong with the pattern; null for most fields
+    bool first_ = true;
+    bool userChanged_ = false;
+};
+
+class PasswordBinding final : public LineBinding {
+  public:
+    PasswordBinding(EditorControl& control, PasswordEdit& edit, EventGate& gate)
+        : LineBinding(control, edit, edit.line(), gate), edit_(edit) {
+        edit.setButtonTexts(toQt(windowText(texts(), WindowText::showPassword)),
+                            toQt(windowText(texts(), WindowText::hidePassword)));
+    }
+
+    [[nodiscard]] std::vector<QWidget*> focusWidgets() const override {
+        return {&edit_.line(), edit_.buttons().front()};
+    }
+
+  private:
+    PasswordEdit& edit_;
+};
+
+class PathBinding final : public LineBinding {
+  public:
+    PathBinding(EditorControl& control, PathEdit& edit, EventGate& gate)
+        : LineBinding(control, edit, edit.line(), gate), edit_(edit) {
+        edit.setButtonTexts(toQt(windowText(texts(), WindowText::browse)),
+                            toQt(windowText(texts(), WindowText::newFolder)));
+        QObject::connect(&edit, &PathEdit::buttonPressed, &edit, [this](int button) {
+            this->gate().hand([this, button](frmEdit& form) { form.onInnerButton(this->control(), button); });
+        });
+    }
+
+    [[nodiscard]] std::vector<QWidget*> focusWidgets() const override {
+        std::vector<QWidget*> widgets{&edit_.line()};
+        widgets.insert(widgets.end(), edit_.buttons().begin(), edit_.buttons().end());
+        return widgets;
+    }
+
+  private:
+    PathEdit& edit_;
+};
+
+class MemoBinding final : public Binding {
+  public:
+    MemoBinding(EditorControl& control, QPlainTextEdit& memo, EventGate& gate)
+        : Binding(control, memo, gate), memo_(memo) {
+        QObject::connect(&memo, &QPlainTextEdit::textChanged, &memo, [this] {
+            userChanged_ = true;
+            const std::string text = fromQt(memo_.toPlainText());
+            showRefusal(memo_,
+                        this->gate().hand([this, &text](frmEdit& form) { form.onTextTyped(this->control(), text); }));
+            userChanged_ = false;
+        });
+    }
+
+    [[nodiscard]] std::vector<QWidget*> focusWidgets() const override { return {&memo_}; }
+    [[nodiscard]] bool isField() const override { return true; }
+
+  protected:
+    void showReadOnly(bool readOnly) override { memo_.setReadOnly(readOnly); }
+
+    void showContent() override {
+        const QString wanted = linesToQt(control().text());
+        if (memo_.toPlainText() == wanted) return;
+        const QSignalBlocker quiet(memo_);
+        // A refused change is taken back; undo goes on from the text before it.
+        if (userChanged_) memo_.undo();
+        if (memo_.toPlainText() != wanted) memo_.setPlainText(wanted);
+    }
+
+  private:
+    QPlainTextEdit& memo_;
+    bool userChanged_ = false;
+};
+
+}  // namespace
+
+std::unique_ptr<Binding> bindText(EditorControl& control, QWidget& widget, EventGate& gate) {
+    auto& line = widgetAs<QLineEdit>(widget);
+    return std::make_unique<LineBinding>(control, line, line, gate);
+}
+
+std::unique_ptr<Binding> bindPassword(EditorControl& control, QWidget& widget, EventGate& gate) {
+    return std::make_unique<PasswordBinding>(control, widgetAs<PasswordEdit>(widget), gate);
+}
+
+std::unique_ptr<Binding> bindPath(EditorControl& control, QWidget& widget, EventGate& gate) {
+    return std::make_unique<PathBinding>(control, widgetAs<PathEdit>(widget), gate);
+}
+
+std::unique_ptr<Binding> bindMemo(EditorControl& control, QWidget& widget, EventGate& gate) {
+    return std::make_unique<MemoBinding>(control, widgetAs<QPlainTextEdit>(widget), gate);
+}
+
+}  // namespace kestedit

@@ -1,0 +1,156 @@
+#include "desktop/widgets/NodeList.h"
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QStyledItemDelegate>
+#include <algorithm>
+
+#include "desktop/Icons.h"
+#include "desktop/Text.h"
+
+namespace kestedit {
+
+namespace {
+
+constexpr int keyUp = 38;
+constexpr int keyDown = 40;
+constexpr int imageSize = 16;
+constexpr int imageColumnWidth = 32;
+constexpr int rowPadding = 10;
+
+/// Lines with air between them.
+class RowDelegate final : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, rowPadding);
+    }
+};
+
+QColor colourOf(std::int64_t blueGreenRed) {
+    const auto part = [&](int shift) { return static_cast<int>((blueGreenRed >> shift) & 0xFF); };
+    return {part(0), part(8), part(16)};
+}
+
+/// Nobody has chosen other colours than those the product starts with.
+bool hasOrdinaryColours(const NavigationList& list) {
+    const NavigationList ordinary;
+    return list.RowColour == ordinary.RowColour && list.RowTextColour == ordinary.RowTextColour;
+}
+
+}  // namespace
+
+NodeList::NodeList(QWidget* parent) : QTreeWidget(parent) {
+    setColumnCount(2);
+    setHeaderHidden(true);
+    setRootIsDecorated(false);
+    setUniformRowHeights(false);
+    setWordWrap(true);
+    setTextElideMode(Qt::ElideNone);
+    setAllColumnsShowFocus(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollMode(ScrollPerPixel);
+    setIconSize({imageSize, imageSize});
+    setItemDelegate(new RowDelegate(this));
+    setFrameShape(QFrame::NoFrame);
+    header()->setStretchLastSection(false);
+    header()->setMinimumSectionSize(imageColumnWidth);
+    header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    header()->setSectionResizeMode(1, QHeaderView::Fixed);
+    header()->resizeSection(1, imageColumnWidth);
+}
+
+void NodeList::show(const NavigationList& list, const std::function<QString(std::string_view)>& meaning) {
+    const bool newImages =
+        shown_.ShowIcons != list.ShowIcons || shown_.Nodes.size() != list.Nodes.size() ||
+        !std::ranges::equal(shown_.Nodes, list.Nodes, {}, &NavigationNode::Image, &NavigationNode::Image);
+    const bool newColours =
+        shown_.RowColour != list.RowColour || shown_.RowTextColour != list.RowTextColour || shown_.Nodes.empty();
+    shown_ = list;
+    meaning_ = meaning;
+
+    while (topLevelItemCount() < static_cast<int>(list.Nodes.size()))
+        addTopLevelItem(new QTreeWidgetItem(this));
+    int row = 0;
+    for (const NavigationNode& node : list.Nodes) {
+        QTreeWidgetItem* const item = topLevelItem(row++);
+        const QString title = toQt(node.Title);
+        if (item->text(0) != title) item->setText(0, title);
+    }
+    if (newColours) showColours();
+    if (newImages || newColours) showImages();
+    if (currentRow() != list.FocusedNode) setCurrentItem(topLevelItem(list.FocusedNode));
+}
+
+QSize NodeList::sizeHint() const {
+    int widest = 0;
+    for (const NavigationNode& node : shown_.Nodes)
+        widest = std::max(widest, fontMetrics().horizontalAdvance(toQt(node.Title)));
+    return {widest + imageColumnWidth + 24, 300};
+}
+
+void NodeList::keyPressEvent(QKeyEvent* event) {
+    if (event->modifiers() == Qt::NoModifier || event->modifiers() == Qt::KeypadModifier) {
+        if (event->key() == Qt::Key_Up) return emit arrowPressed(keyUp);
+        if (event->key() == Qt::Key_Down) return emit arrowPressed(keyDown);
+    }
+    const int before = currentRow();
+    QTreeWidget::keyPressEvent(event);
+    // Home, End, page keys and first letters move in the list; the page is to follow.
+    if (currentRow() != before) emit nodeChosen(currentRow());
+}
+
+void NodeList::mousePressEvent(QMouseEvent* event) {
+    QTreeWidget::mousePressEvent(event);
+    const QModelIndex line = indexAt(event->position().toPoint());
+    if (line.isValid() && event->button() == Qt::LeftButton) emit nodeChosen(line.row());
+}
+
+void NodeList::changeEvent(QEvent* event) {
+    QTreeWidget::changeEvent(event);
+    if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::StyleChange) {
+        showColours();
+        showImages();
+    }
+}
+
+void NodeList::resizeEvent(QResizeEvent* event) {
+    QTreeWidget::resizeEvent(event);
+    scheduleDelayedItemsLayout();  // titles break at the new width
+}
+
+// Background and text are one setting. The colours that the product starts with give way to a dark desktop's own.
+void NodeList::showColours() {
+    if (colouring_) return;
+    colouring_ = true;
+    QPalette colours = QApplication::palette(this);
+    if (!hasOrdinaryColours(shown_) || !isDark(colours.color(QPalette::Base))) {
+        colours.setColor(QPalette::Base, colourOf(shown_.RowColour));
+        colours.setColor(QPalette::Text, colourOf(shown_.RowTextColour));
+    }
+    setPalette(colours);
+    colouring_ = false;
+}
+
+void NodeList::showImages() {
+    setColumnHidden(1, !shown_.ShowIcons);
+    const QColor background = palette().color(QPalette::Base);
+    int row = 0;
+    for (const NavigationNode& node : shown_.Nodes) {
+        QTreeWidgetItem* const item = topLevelItem(row++);
+        if (!item) return;
+        const QString meaning = node.Image.empty() || !meaning_ ? QString() : meaning_(node.Image);
+        item->setIcon(1, node.Image.empty() ? QIcon() : icon("node-" + node.Image, background));
+        item->setToolTip(1, meaning);
+        item->setData(1, Qt::AccessibleTextRole, meaning);
+        item->setData(0, Qt::AccessibleDescriptionRole, meaning);
+    }
+}
+
+int NodeList::currentRow() const {
+    return currentIndex().isValid() ? currentIndex().row() : -1;
+}
+
+}  // namespace kestedit

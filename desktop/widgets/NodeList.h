@@ -1,0 +1,47 @@
+// The navigation list: a title and an image a line.
+#pragma once
+
+#include <QTreeWidget>
+#include <functional>
+
+#include "editor/FormModel.h"
+
+namespace kestedit {
+
+/// Shows what the form's list holds. It moves nothing itself: it tells what the user wants, and shows the line that the
+/// form has focused then.
+class NodeList : public QTreeWidget {
+    Q_OBJECT
+
+  public:
+    explicit NodeList(QWidget* parent = nullptr);
+
+    /// `meaning` says an image in words, for a tool tip and for those who do not see it.
+    void show(const NavigationList& list, const std::function<QString(std::string_view image)>& meaning);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return {120, 80}; }
+
+  signals:
+    void nodeChosen(int position);
+    /// An arrow key, by its code in the form: 38 up, 40 down.
+    void arrowPressed(int code);
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent*) override {}  // dragging over the lines chooses none of them
+    void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    void showColours();
+    void showImages();
+    [[nodiscard]] int currentRow() const;
+
+    NavigationList shown_;
+    std::function<QString(std::string_view)> meaning_;
+    bool colouring_ = false;
+};
+
+}  // namespace kestedit

@@ -1,0 +1,31 @@
+// One page of the form, which scrolls where it does not fit.
+#pragma once
+
+#include <QScrollArea>
+
+namespace kestedit {
+
+class PageArea : public QScrollArea {
+    Q_OBJECT
+
+  public:
+    /// Takes `page` over.
+    explicit PageArea(QWidget* page, QWidget* parent = nullptr);
+
+    [[nodiscard]] QSize minimumSizeHint() const override { return {200, 120}; }
+
+    /// Where `part` of the page stands on the screen, from the area's upper edge.
+    [[nodiscard]] int placeOf(const QWidget& part) const;
+    /// Scrolls so that `part` stands at `place` again after the page has changed: what the user has just clicked stays
+    /// under the pointer. A page that has become too short for that keeps room below its end until it is left.
+    void bringBack(const QWidget& part, int place);
+
+  protected:
+    void hideEvent(QHideEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+  private:
+    void limitWidth();
+};
+
+}  // namespace kestedit
