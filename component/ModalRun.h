@@ -1,12 +1,14 @@
 // The modal run of the form: what a driver does between the moment the form is loaded and the moment it has closed.
 #pragma once
 
+#include "platform/Export.h"
+
 namespace kestedit {
 
 class frmEdit;
 
 /// A driver of the form: the desktop window, the script driver, a test.
-class ModalRun {
+class KESTEDIT_EXPORT ModalRun {
   public:
     virtual ~ModalRun() = default;
 

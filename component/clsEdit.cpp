@@ -1,8 +1,10 @@
 #include "component/clsEdit.h"
 
-#include <stdexcept>
+#include <atomic>
+#include <utility>
 
 #include "editor/frmEdit.h"
+#include "persistence/ComponentValues.h"
 
 namespace kestedit {
 
@@ -12,42 +14,90 @@ namespace {
 class RunningEditor {
   public:
     RunningEditor() {
-        if (running_) throw std::logic_error("an editor is open already");
-        running_ = true;
+        if (running_.exchange(true)) throw EditorOpen("an editor is open already");
     }
     ~RunningEditor() { running_ = false; }
     RunningEditor(const RunningEditor&) = delete;
     RunningEditor& operator=(const RunningEditor&) = delete;
 
   private:
-    static inline bool running_ = false;
+    static inline std::atomic<bool> running_ = false;
 };
 
 }  // namespace
 
-clsEdit::clsEdit(Platform& platform, ModalRun& driver) : platform_(platform), driver_(driver) {
-    values_.Cancelled = false;
-    values_.CancelCompanion = false;
+struct clsEdit::State {
+    Platform& platform;
+    ModalRun& driver;
+    ComponentValues values;
+};
+
+clsEdit::clsEdit(Platform& platform, ModalRun& driver)
+    : state_(std::make_unique<State>(State{platform, driver, ComponentValues{}})) {
+    state_->values.Cancelled = false;
+    state_->values.CancelCompanion = false;
+}
+
+clsEdit::~clsEdit() = default;
+
+void clsEdit::JobFile(std::string path) {
+    state_->values.JobFile = std::move(path);
+}
+
+void clsEdit::Mode(std::string mode) {
+    state_->values.Mode = std::move(mode);
+}
+
+void clsEdit::View(std::int16_t view) {
+    state_->values.View = view;
+}
+
+void clsEdit::AppTitle(std::string title) {
+    state_->values.AppTitle = std::move(title);
+}
+
+void clsEdit::JobDir(std::string folder) {
+    state_->values.JobDir = std::move(folder);
+}
+
+void clsEdit::INIFile(std::string path) {
+    state_->values.INIFile = std::move(path);
+}
+
+void clsEdit::Language(std::string path) {
+    state_->values.Language = std::move(path);
+}
+
+void clsEdit::PgmData(std::string data) {
+    state_->values.PgmData = std::move(data);
+}
+
+void clsEdit::JobExtension(std::string extension) {
+    state_->values.JobExtension = std::move(extension);
+}
+
+void clsEdit::HelpFile(std::string path) {
+    state_->values.HelpFile = std::move(path);
 }
 
 void clsEdit::Show(std::int16_t start) {
     const RunningEditor running;
-    values_.ViewLevel = std::to_string(start);
+    state_->values.ViewLevel = std::to_string(start);
     {
-        frmEdit form(values_, platform_);
+        frmEdit form(state_->values, state_->platform);
         form.Load();
-        driver_.run(form);
+        state_->driver.run(form);
     }
-    driver_.processPending();
+    state_->driver.processPending();
     raiseEvent();
 }
 
 void clsEdit::raiseEvent() {
-    if (values_.Cancelled) return;
-    if (values_.Mode == "New") {
+    if (state_->values.Cancelled) return;
+    if (state_->values.Mode == "New") {
         if (SearchJobs) SearchJobs();
     } else if (SetNewValues) {
-        SetNewValues(values_.SetNewValuesArgument);
+        SetNewValues(state_->values.SetNewValuesArgument);
     }
 }
 

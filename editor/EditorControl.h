@@ -5,6 +5,7 @@
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -12,6 +13,7 @@
 #include <vector>
 
 #include "platform/DateTime.h"
+#include "platform/Export.h"
 
 namespace kestedit {
 
@@ -41,7 +43,7 @@ using Value = std::variant<std::monostate, std::string, std::int64_t, Date, Time
 class ControlRegistry;
 
 /// Setting a property runs nothing: whoever changes a control calls the rules that depend on it.
-struct EditorControl {
+struct KESTEDIT_EXPORT EditorControl {
     /// `member` is the index in a control array, -1 for a control that stands alone. `container` is the frame it stands
     /// in and must outlive it. Enters itself into `registry`.
     EditorControl(ControlRegistry& registry, ControlKind kind, std::string_view base, int member,
@@ -88,7 +90,7 @@ struct EditorControl {
 };
 
 /// The controls of one form, in the order of their declaration.
-class ControlRegistry {
+class KESTEDIT_EXPORT ControlRegistry {
   public:
     ControlRegistry() = default;
     ControlRegistry(const ControlRegistry&) = delete;
@@ -101,7 +103,7 @@ class ControlRegistry {
     /// As find; throws std::invalid_argument for an unknown name.
     [[nodiscard]] EditorControl& at(std::string_view name) const;
     /// All members of an array, or the one control, in index order.
-    [[nodiscard]] std::vector<EditorControl*> group(std::string_view base) const;
+    [[nodiscard]] std::span<EditorControl* const> group(std::string_view base) const;
 
   private:
     friend struct EditorControl;

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "editor/EditorControl.h"
+#include "platform/Export.h"
 
 namespace kestedit {
 
@@ -33,7 +34,7 @@ inline constexpr std::size_t localizerSize = 13;
 
 /// The controls are declared page by page, each row: kind, name, frame it stands in, design-time value. A rule reads
 /// them as members; tables and drivers find them by name.
-struct FormModel : ControlRegistry {
+struct KESTEDIT_EXPORT FormModel : ControlRegistry {
     FormModel();
 
     // clang-format off

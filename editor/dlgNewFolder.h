@@ -7,13 +7,14 @@
 
 #include "editor/FormModel.h"
 #include "persistence/modIniHandler.h"
+#include "platform/Export.h"
 #include "platform/Platform.h"
 
 namespace kestedit {
 
 /// Its controls answer to their own names; FormModel::fMode of the form says which path field it serves. A driver shows
 /// it from Prompts::runNewFolder and hands it events until it is closed.
-class dlgNewFolder : public ControlRegistry {
+class KESTEDIT_EXPORT dlgNewFolder : public ControlRegistry {
   public:
     /// All must outlive the dialog.
     dlgNewFolder(FormModel& form, const modIniHandler& texts, std::string_view title, Platform& platform);

@@ -12,12 +12,13 @@
 #include "persistence/ComponentValues.h"
 #include "persistence/JobStore.h"
 #include "persistence/modIniHandler.h"
+#include "platform/Export.h"
 #include "platform/Platform.h"
 
 namespace kestedit {
 
 /// An event that no user could cause: its control is disabled, hidden, read-only or of another kind.
-class EventRefused : public std::invalid_argument {
+class KESTEDIT_EXPORT EventRefused : public std::invalid_argument {
   public:
     using std::invalid_argument::invalid_argument;
 };
@@ -26,7 +27,7 @@ class EventRefused : public std::invalid_argument {
 /// nothing in the model themselves. A handler throws EventRefused, before it has changed anything, for an event that no
 /// user could cause, and lets a failure of the platform (std::system_error) out; the form stays open then, with
 /// everything the user typed. Handlers may put questions through Platform::prompts and return when these are answered.
-class frmEdit : public FormModel {
+class KESTEDIT_EXPORT frmEdit : public FormModel {
   public:
     /// Both must outlive the form.
     frmEdit(ComponentValues& values, Platform& platform);

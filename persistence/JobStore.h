@@ -7,12 +7,13 @@
 #include <string>
 #include <string_view>
 
+#include "platform/Export.h"
 #include "platform/IniStore.h"
 
 namespace kestedit {
 
 /// The keys of section "Job" of one file.
-class JobRecord {
+class KESTEDIT_EXPORT JobRecord {
   public:
     explicit JobRecord(IniStore::Snapshot snapshot) : snapshot_(std::move(snapshot)) {}
 
@@ -30,7 +31,7 @@ struct JobLine {
     std::string value;
 };
 
-class JobStore {
+class KESTEDIT_EXPORT JobStore {
   public:
     /// Must outlive the store.
     explicit JobStore(IniStore& ini) : ini_(ini) {}

@@ -7,13 +7,14 @@
 #include <string_view>
 
 #include "persistence/ComponentValues.h"
+#include "platform/Export.h"
 #include "platform/IniStore.h"
 
 namespace kestedit {
 
 /// Reads cut a value to `size - 1` bytes of the code page and give the default for what is missing or unreadable.
 /// Writes are silent about failures; IniStore::lastError tells what the last one came to.
-class modIniHandler {
+class KESTEDIT_EXPORT modIniHandler {
   public:
     /// Both must outlive the handler. The paths of `values` are looked up at each call.
     modIniHandler(IniStore& ini, const ComponentValues& values) : ini_(ini), values_(values) {}

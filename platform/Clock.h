@@ -2,10 +2,11 @@
 #pragma once
 
 #include "platform/DateTime.h"
+#include "platform/Export.h"
 
 namespace kestedit {
 
-class Clock {
+class KESTEDIT_EXPORT Clock {
   public:
     virtual ~Clock() = default;
 
@@ -14,13 +15,13 @@ class Clock {
 };
 
 /// The machine's clock.
-class SystemClock final : public Clock {
+class KESTEDIT_EXPORT SystemClock final : public Clock {
   public:
     [[nodiscard]] LocalTime now() const override;
 };
 
 /// A clock that stands still: runs that must print the same every time use it.
-class FixedClock final : public Clock {
+class KESTEDIT_EXPORT FixedClock final : public Clock {
   public:
     explicit FixedClock(LocalTime moment) : moment_(moment) {}
     [[nodiscard]] LocalTime now() const override { return moment_; }

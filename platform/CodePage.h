@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/Export.h"
+
 namespace kestedit {
 
 /// One code page, by its number: 65001 is UTF-8, any other a single-byte page that the system's iconv knows as
@@ -13,7 +15,7 @@ namespace kestedit {
 ///
 /// Every byte string survives decode and encode unchanged: a byte that the page does not define becomes a character
 /// that only this class uses and turns back into that byte.
-class CodePage {
+class KESTEDIT_EXPORT CodePage {
   public:
     static constexpr int western = 1252;
     static constexpr int utf8 = 65001;

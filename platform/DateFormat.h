@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "platform/DateTime.h"
+#include "platform/Export.h"
 
 namespace kestedit {
 
@@ -13,7 +14,7 @@ namespace kestedit {
 ///
 /// A job runner reads these texts under the same locale, so the year always has four digits and reading is strict: a
 /// text in another order or with an impossible day is no date.
-class DateFormat {
+class KESTEDIT_EXPORT DateFormat {
   public:
     /// Throws std::invalid_argument when day, month or year is missing from `pattern` or stands there twice.
     explicit DateFormat(std::string pattern);
@@ -30,9 +31,9 @@ class DateFormat {
 };
 
 /// "14:05:00".
-[[nodiscard]] std::string timeText(TimeOfDay time);
+[[nodiscard]] KESTEDIT_EXPORT std::string timeText(TimeOfDay time);
 
 /// Reads "14:05:00" and "14:05"; anything else is no time.
-[[nodiscard]] std::optional<TimeOfDay> parseTime(std::string_view text);
+[[nodiscard]] KESTEDIT_EXPORT std::optional<TimeOfDay> parseTime(std::string_view text);
 
 }  // namespace kestedit

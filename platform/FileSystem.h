@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/Export.h"
+
 namespace kestedit {
 
 /// What a look at a folder from outside found. See FileSystem::inspectFolder.
@@ -16,9 +18,9 @@ struct FolderStatus {
     bool writable = false;
 };
 
-/// Failures are std::filesystem::filesystem_error (a std::system_error) that names operation and path. A missing file is
-/// no failure of the two questions.
-class FileSystem {
+/// Failures are std::filesystem::filesystem_error (a std::system_error) that names operation and path. A missing file
+/// is no failure of the two questions.
+class KESTEDIT_EXPORT FileSystem {
   public:
     virtual ~FileSystem() = default;
 
@@ -34,14 +36,14 @@ class FileSystem {
     /// Looks at a folder without ever blocking longer than `patience`: a dead network mount must not freeze the editor.
     [[nodiscard]] virtual FolderStatus inspectFolder(const std::filesystem::path& folder,
                                                      std::chrono::milliseconds patience) const = 0;
-    /// `path` made absolute, its links and dots resolved as far as it exists, so that two spellings of one folder compare
-    /// equal. Gives `path` in lexical normal form when the system refuses or does not answer within `patience`.
+    /// `path` made absolute, its links and dots resolved as far as it exists, so that two spellings of one folder
+    /// compare equal. Gives `path` in lexical normal form when the system refuses or does not answer within `patience`.
     [[nodiscard]] virtual std::filesystem::path resolve(const std::filesystem::path& path,
                                                         std::chrono::milliseconds patience) const = 0;
 };
 
 /// The machine's own file system.
-class LocalFileSystem final : public FileSystem {
+class KESTEDIT_EXPORT LocalFileSystem final : public FileSystem {
   public:
     [[nodiscard]] bool FileExists(const std::filesystem::path& file) const override;
     [[nodiscard]] bool FolderExists(const std::filesystem::path& folder) const override;

@@ -4,6 +4,8 @@
 #include <optional>
 #include <string>
 
+#include "platform/Export.h"
+
 namespace kestedit {
 
 class dlgNewFolder;
@@ -37,7 +39,7 @@ struct FileRequest {
 };
 
 /// Each call returns when the user has answered. Nothing is chosen when the user cancels.
-class Prompts {
+class KESTEDIT_EXPORT Prompts {
   public:
     virtual ~Prompts() = default;
 

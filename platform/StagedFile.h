@@ -5,11 +5,13 @@
 #include <span>
 #include <string_view>
 
+#include "platform/Export.h"
+
 namespace kestedit {
 
 /// Owns a temporary file in the target's folder. Destroyed before commit, it removes the temporary file and leaves the
 /// target as it was. A target that is a symbolic link is followed: the link stays and the file behind it is replaced.
-class StagedFile {
+class KESTEDIT_EXPORT StagedFile {
   public:
     /// What becomes of the permissions of a target that exists. A new file follows the process's umask.
     enum class Permissions {

@@ -7,10 +7,12 @@
 #include <system_error>
 #include <utility>
 
+#include "platform/Export.h"
+
 namespace kestedit {
 
 /// An INI file of the editor's own in the user's configuration folder, always UTF-8.
-class UserSettings {
+class KESTEDIT_EXPORT UserSettings {
   public:
     virtual ~UserSettings() = default;
 
@@ -28,10 +30,10 @@ struct UserFolders {
 };
 
 /// A relative or empty XDG variable counts as unset.
-[[nodiscard]] UserFolders userFolders();
+[[nodiscard]] KESTEDIT_EXPORT UserFolders userFolders();
 
 /// The user's settings in `file`, usually userFolders().config / "user.ini".
-class UserSettingsFile final : public UserSettings {
+class KESTEDIT_EXPORT UserSettingsFile final : public UserSettings {
   public:
     explicit UserSettingsFile(std::filesystem::path file) : file_(std::move(file)) {}
     [[nodiscard]] std::string read(std::string_view section, std::string_view key,

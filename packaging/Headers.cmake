@@ -1,0 +1,50 @@
+# The public headers. In the project they name one another from its root ("platform/Clock.h"), which could meet a header
+# of the host's own; installed, they say <kestEdit/platform/Clock.h>.
+set(public_headers
+  # for hosts
+  component/LinuxPlatform.h
+  component/ModalRun.h
+  component/clsEdit.h
+  component/kestEdit.h
+  platform/Clock.h
+  platform/CodePage.h
+  platform/DateFormat.h
+  platform/DateTime.h
+  platform/Export.h
+  platform/FileSystem.h
+  platform/IniStore.h
+  platform/Platform.h
+  platform/Prompts.h
+  platform/StagedFile.h
+  platform/UserSettings.h
+  # for drivers of the form
+  component/FrontEnd.h
+  editor/EditorControl.h
+  editor/FormModel.h
+  editor/dlgNewFolder.h
+  editor/frmEdit.h
+  persistence/ComponentValues.h
+  persistence/JobStore.h
+  persistence/modIniHandler.h
+)
+
+set(public_include_dir ${PROJECT_BINARY_DIR}/include)
+
+function(install_public_header header component)
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${header})
+  file(READ ${PROJECT_SOURCE_DIR}/${header} content)
+  string(REGEX REPLACE "#include \"([^\"]+)\"" "#include <kestEdit/\\1>" content "${content}")
+  cmake_path(GET header FILENAME name)
+  cmake_path(GET header PARENT_PATH folder)
+  # The C headers stand where hosts look first.
+  if(name MATCHES "^kestEdit")
+    set(folder "")
+  endif()
+  file(CONFIGURE OUTPUT ${public_include_dir}/kestEdit/${folder}/${name} CONTENT "${content}" @ONLY)
+  install(FILES ${public_include_dir}/kestEdit/${folder}/${name}
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/kestEdit/${folder} COMPONENT ${component})
+endfunction()
+
+foreach(header IN LISTS public_headers)
+  install_public_header(${header} libkestedit-dev)
+endforeach()
