@@ -111,12 +111,10 @@ EditorControl& ControlRegistry::at(std::string_view name) const {
     return *control;
 }
 
-std::vector<EditorControl*> ControlRegistry::group(std::string_view base) const {
-    std::vector<EditorControl*> members;
-    for (std::size_t i = firstOf(base); i < controls_.size() && controls_[i]->Base == base; ++i) {
-        members.push_back(controls_[i]);
-    }
-    return members;
+std::span<EditorControl* const> ControlRegistry::group(std::string_view base) const {
+    const auto begin = controls_.begin() + static_cast<std::ptrdiff_t>(firstOf(base));
+    const auto end = std::find_if(begin, controls_.end(), [&](const EditorControl* one) { return one->Base != base; });
+    return {begin, end};
 }
 
 }  // namespace kestedit

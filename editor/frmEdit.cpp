@@ -46,6 +46,7 @@ frmEdit::frmEdit(ComponentValues& values, Platform& platform)
 }
 
 void frmEdit::Load() {
+    const IniStore::ReadScope reading = platform_.ini.readScope();
     readWindowSettings();
     loadTexts();
     chkEditPaths.State = editPaths_ ? 1 : 0;

@@ -1,6 +1,7 @@
 #include "platform/IniStore.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <new>
 #include <stdexcept>
 #include <sys/stat.h>
@@ -45,31 +46,46 @@ class RecentFiles {
   public:
     explicit RecentFiles(CodePage page) : page_(page) {}
 
-    /// The file as it is now. Throws std::system_error.
-    SharedText get(const fs::path& file) {
+    /// The file for reading: as it is now, or as it was when the running scope first looked at it. Throws
+    /// std::system_error.
+    SharedText get(const fs::path& file) { return get(file, true); }
+
+    /// The file for changing, as it is now whatever a scope has seen. Throws std::system_error.
+    SharedText getForChange(const fs::path& file) { return get(file, false); }
+
+    void forget(const fs::path& file) {
+        std::erase_if(files_, [&](const Entry& entry) { return entry.path == file.native(); });
+    }
+
+    void enterScope() {
+        if (depth_++ == 0) ++scope_;
+    }
+    void leaveScope() { --depth_; }
+
+  private:
+    struct Entry {
+        std::string path;
+        SharedText text;
+        std::uint64_t scope;  // in which the disk was last looked at
+    };
+
+    SharedText get(const fs::path& file, bool trustScope) {
         const auto known = std::ranges::find(files_, file.native(), &Entry::path);
         if (known != files_.end()) {
-            if (isCurrent(*known)) {
+            if ((trustScope && isTrusted(*known)) || isCurrent(*known)) {
+                known->scope = scope_;
                 std::rotate(files_.begin(), known, known + 1);
                 return files_.front().text;
             }
             files_.erase(known);
         }
         SharedText text = std::make_shared<const IniText>(page_, FileContent::read(file));
-        files_.insert(files_.begin(), {file.native(), text});
+        files_.insert(files_.begin(), {file.native(), text, scope_});
         forgetOldest();
         return text;
     }
 
-    void forget(const fs::path& file) {
-        std::erase_if(files_, [&](const Entry& entry) { return entry.path == file.native(); });
-    }
-
-  private:
-    struct Entry {
-        std::string path;
-        SharedText text;
-    };
+    bool isTrusted(const Entry& entry) const { return depth_ > 0 && entry.scope == scope_; }
 
     static bool isCurrent(const Entry& entry) {
         struct stat status {};
@@ -91,6 +107,8 @@ class RecentFiles {
 
     CodePage page_;
     std::vector<Entry> files_;  // the one used last comes first
+    std::uint64_t scope_ = 0;   // the newest scope, running or ended
+    int depth_ = 0;             // scopes that run, one inside another
 };
 
 }  // namespace
@@ -133,6 +151,18 @@ std::string IniStore::read(const fs::path& file, std::string_view section, std::
     return std::string(page.cutText(fallback, size - 1));
 }
 
+IniStore::ReadScope IniStore::readScope() {
+    return ReadScope(*this);
+}
+
+IniStore::ReadScope::ReadScope(IniStore& store) : store_(store) {
+    store_.impl_->files.enterScope();
+}
+
+IniStore::ReadScope::~ReadScope() {
+    store_.impl_->files.leaveScope();
+}
+
 std::error_code IniStore::write(const fs::path& file, std::string_view section, std::string_view key,
                                 std::string_view value) {
     std::error_code& error = impl_->lastError;
@@ -163,7 +193,7 @@ IniStore::Snapshot IniStore::open(const fs::path& file) {
 IniStore::Edit IniStore::edit(const fs::path& file, bool startEmpty) {
     SharedText base;
     try {
-        if (!startEmpty) base = impl_->files.get(file);
+        if (!startEmpty) base = impl_->files.getForChange(file);
     } catch (const std::system_error& failure) {
         if (failure.code() != std::errc::no_such_file_or_directory) throw;
     }

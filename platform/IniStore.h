@@ -11,6 +11,7 @@
 #include <system_error>
 
 #include "platform/CodePage.h"
+#include "platform/Export.h"
 #include "platform/StagedFile.h"
 
 namespace kestedit {
@@ -20,7 +21,7 @@ namespace kestedit {
 /// A file is read once for as long as it does not change on disk (device, inode, size, times of change); after that a
 /// read by key is a hash look-up. Names compare without regard to case in the whole code page, the first section of a
 /// name and the first key of a name count. docs/ini.md lists the rules of the format.
-class IniStore {
+class KESTEDIT_EXPORT IniStore {
   public:
     explicit IniStore(CodePage page = CodePage{});
     ~IniStore();
@@ -29,8 +30,8 @@ class IniStore {
 
     [[nodiscard]] const CodePage& codePage() const;
 
-    /// The value of `key`, cut to `size - 1` bytes of the code page (never inside a character); `fallback`, cut the same
-    /// way and without the blanks at its end, when file, section or key is missing or the file cannot be read.
+    /// The value of `key`, cut to `size - 1` bytes of the code page (never inside a character); `fallback`, cut the
+    /// same way and without the blanks at its end, when file, section or key is missing or the file cannot be read.
     [[nodiscard]] std::string read(const std::filesystem::path& file, std::string_view section, std::string_view key,
                                    std::string_view fallback, std::size_t size);
 
@@ -42,10 +43,16 @@ class IniStore {
     /// What the most recent write came to.
     [[nodiscard]] std::error_code lastError() const;
 
+    /// While one lives, a file that was looked at once since it began counts as unchanged (writes through this store
+    /// apart): the many reads of one start-up cost one look at the disk a file. Must not outlive the store.
+    class ReadScope;
+    [[nodiscard]] ReadScope readScope();
+
     class Snapshot;
     class Edit;
 
-    /// The file as it is now, for many reads with one look at the disk. Throws std::system_error when it cannot be read.
+    /// The file as it is now, for many reads with one look at the disk. Throws std::system_error when it cannot be
+    /// read.
     [[nodiscard]] Snapshot open(const std::filesystem::path& file);
 
     /// Collects the keys of one save. `startEmpty` forgets what the file holds; otherwise its lines are kept, and a
@@ -57,8 +64,19 @@ class IniStore {
     std::unique_ptr<Impl> impl_;
 };
 
+class KESTEDIT_EXPORT IniStore::ReadScope {
+  public:
+    explicit ReadScope(IniStore& store);
+    ~ReadScope();
+    ReadScope(const ReadScope&) = delete;
+    ReadScope& operator=(const ReadScope&) = delete;
+
+  private:
+    IniStore& store_;
+};
+
 /// One file's content at the moment it was opened.
-class IniStore::Snapshot {
+class KESTEDIT_EXPORT IniStore::Snapshot {
   public:
     Snapshot(Snapshot&&) noexcept;
     Snapshot& operator=(Snapshot&&) noexcept;
@@ -77,7 +95,7 @@ class IniStore::Snapshot {
 };
 
 /// The keys of one save, applied in memory until they are staged.
-class IniStore::Edit {
+class KESTEDIT_EXPORT IniStore::Edit {
   public:
     Edit(Edit&&) noexcept;
     Edit& operator=(Edit&&) noexcept;

@@ -164,6 +164,22 @@ TEST_F(IniRead, aFileThatKeptItsSizeAndModificationTimeIsReadAnew) {
     EXPECT_EQ(store.read(file, "S", "k", "", 10), "2");
 }
 
+TEST_F(IniRead, aScopeLooksAtTheDiskOnce) {
+    IniStore store;
+    const auto file = folder_.file("scope.ini", "[S]\nk=1");
+    {
+        const IniStore::ReadScope reading = store.readScope();
+        ASSERT_EQ(store.read(file, "S", "k", "", 10), "1");
+        folder_.file("scope.ini", "[S]\nk=another");
+        EXPECT_EQ(store.read(file, "S", "k", "", 10), "1");
+        ASSERT_FALSE(store.write(file, "S", "own", "2"));
+        EXPECT_EQ(store.read(file, "S", "own", "", 10), "2") << "a write of its own is seen";
+        EXPECT_EQ(store.read(file, "S", "k", "", 10), "another") << "and it built on the file as it was";
+        folder_.file("scope.ini", "[S]\nk=3");
+    }
+    EXPECT_EQ(store.read(file, "S", "k", "", 10), "3");
+}
+
 TEST_F(IniRead, aSnapshotStaysAsItWasOpened) {
     auto store = std::make_unique<IniStore>();
     const auto file = folder_.file("snapshot.ini", "[S]\nk=1");
