@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <string_view>
 
 #include "editor/modSpinButtons.h"
 #include "editor/rules/action.h"
@@ -20,21 +19,16 @@ namespace kestedit {
 
 namespace {
 
-/// A control or group, and the rule of its change; `member` is the index of the member that changed.
-struct ChangeRule {
-    std::string_view control;
-    void (*run)(FormModel& form, int member);
-};
-
 template <void (*... Rules)(FormModel&)>
 void run(FormModel& form, int /*member*/) {
     (Rules(form), ...);
 }
 
 // clang-format off
-constexpr std::array changeRules{
+constexpr std::array rows{
     // the action
-    ChangeRule{"optAction",           run<ApplyAction>},
+    ChangeRule{"optAction",           run<ApplyAction, ApplyDestinationPath, ApplyMonitorPath, ApplySourceAttributes,
+                                          ApplyDestAttributes, ShowCompressionFrames, ShowDestinationFrames>},
     ChangeRule{"chkPreview",          run<ApplyPreview>},
     ChangeRule{"chkOnlyCompare",      run<ApplyOnlyCompare>},
     // paths
@@ -93,7 +87,7 @@ constexpr std::array changeRules{
     ChangeRule{"optUnZip",            ApplyUnZipExisting},
     // destination
     ChangeRule{"chkFStruct",          run<ApplyFolderStructure>},
-    ChangeRule{"optExist",            run<ApplyExist>},
+    ChangeRule{"optExist",            run<ApplyExist, MarkDestinationPage>},
     ChangeRule{"dxRenamer",           run<ApplyRenameText>},
     ChangeRule{"dxPickRenamer",       run<ApplyRenameScheme>},
     ChangeRule{"dxPickExistSelecter", run<ApplyExist>},
@@ -104,9 +98,13 @@ constexpr std::array changeRules{
 
 }  // namespace
 
+std::span<const ChangeRule> changeRules() {
+    return rows;
+}
+
 void RunChangeRule(FormModel& form, const EditorControl& control) {
-    const auto* const rule = std::ranges::find(changeRules, control.Base, &ChangeRule::control);
-    if (rule != changeRules.end()) rule->run(form, control.Member);
+    const auto* const rule = std::ranges::find(rows, control.Base, &ChangeRule::control);
+    if (rule != rows.end()) rule->run(form, control.Member);
 }
 
 }  // namespace kestedit

@@ -42,7 +42,9 @@ Text textOf(PathFinding finding) {
             return {"t5", "Der überwachte Ordner kann nicht gelesen werden."};
         case PathFinding::sourceNotWritable:
             return {"t15", "Im Quellverzeichnis können keine Dateien gelöscht werden."};
-        case PathFinding::noAnswer:
+        case PathFinding::sourceNoAnswer:
+        case PathFinding::destinationNoAnswer:
+        case PathFinding::monitoredNoAnswer:
             return {"t12", "Der Ordner %1 antwortet nicht."};
     }
     return {};
@@ -64,8 +66,9 @@ std::string read(const modIniHandler& texts, Text text) {
 
 // The folder that a finding about a missing answer names.
 std::string silentFolder(const FormModel& form, PathFinding finding) {
-    (void)finding;
-    return form.dxSource.text();
+    if (finding == PathFinding::sourceNoAnswer) return form.dxSource.text();
+    if (finding == PathFinding::destinationNoAnswer) return form.dxDest.text();
+    return form.dxMonitorPath.text();
 }
 
 std::string filledIn(std::string message, std::string_view text) {

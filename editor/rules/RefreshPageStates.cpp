@@ -69,6 +69,7 @@ constexpr std::array wholePass{
 constexpr std::array completePages{
     PageRule{ 0, ShowWholeName},
     PageRule{ 2, ApplyEditPaths},
+    PageRule{ 2, ApplyDestinationPath},
     PageRule{ 2, RefreshPathTexts},
     PageRule{ 3, UpdateIntervalUnitLabels},
     PageRule{ 3, ApplyRunTime},
@@ -91,6 +92,7 @@ constexpr std::array pagesWithoutSchedule{
     PageRule{ 0, ShowWholeName},
     PageRule{ 0, ShowCompressionFrames},
     PageRule{ 2, ApplyEditPaths},
+    PageRule{ 2, ApplyDestinationPath},
     PageRule{ 2, RefreshPathTexts},
     PageRule{ 3, UpdateIntervalUnitLabels},
     PageRule{ 3, ApplyRunTime},
@@ -110,6 +112,7 @@ constexpr std::array pagesWithoutSchedule{
 constexpr std::array smallPages{
     PageRule{0, ShowWholeName},
     PageRule{0, ApplyEditPaths},
+    PageRule{0, ApplyDestinationPath},
     PageRule{0, RefreshPathTexts},
     PageRule{2, UpdateFileNameCaption},
     PageRule{3, ApplyFileMatch},
@@ -123,8 +126,8 @@ constexpr std::array smallPages{
 
 // Everything that a choice can change, in the order of the pages. The action's own rule is not among them: it would choose
 // anew what the job has chosen.
-constexpr std::array<Rule, 26> choices{
-    ReflectOnlyCompare,    ApplyEditPaths,      RefreshPathTexts,     UpdateIntervalUnitLabels, ApplyIntervall,
+constexpr std::array<Rule, 27> choices{
+    ReflectOnlyCompare,    ApplyEditPaths,      ApplyDestinationPath, RefreshPathTexts,     UpdateIntervalUnitLabels, ApplyIntervall,
     ApplyRunTime,          ApplyMonitorPath,    ApplyInactive,        ApplyFreeSpace,           ApplyExecDo,
     ApplySubFolder,        UpdateFolderNameCaption, ApplyFileMatch,   UpdateFileNameCaption,    ApplyExt,
     ApplySize,             UpdateAgeUnitLabels, ApplyAge,             ApplyDestFileTime,        ApplyDestFileTimePage,

@@ -9,7 +9,9 @@ namespace kestedit {
 
 enum class Action : int { copy, move, remove, compress, extract, synchronise };
 
-[[nodiscard]] inline Action selectedAction(const FormModel& form) { return static_cast<Action>(form.SelectedAction); }
+[[nodiscard]] inline Action selectedAction(const FormModel& form) {
+    return static_cast<Action>(form.SelectedAction);
+}
 
 /// Image of the action's node, plain or in preview form; the pairs are irregular on purpose.
 [[nodiscard]] std::string_view ActionImage(int action, bool preview);

@@ -16,7 +16,8 @@ template <typename... Controls>
 void SetAllApply(const FormModel& form, bool applies, Controls&... controls) {
     const auto set = [&](auto& one) {
         if constexpr (requires { one.begin(); }) {
-            for (EditorControl& member : one) SetApplies(form, member, applies);
+            for (EditorControl& member : one)
+                SetApplies(form, member, applies);
         } else {
             SetApplies(form, one, applies);
         }

@@ -122,4 +122,8 @@ std::string_view DestinationMark(const FormModel& form) {
     return image::none;
 }
 
+void MarkDestinationPage(FormModel& form) {
+    SetNodeImage(form, Page::existing, DestinationMark(form));
+}
+
 }  // namespace kestedit

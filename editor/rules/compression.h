@@ -24,6 +24,8 @@ void ApplyFolderStructure(FormModel& form);
 /// Change rule of optUnZip; acts only when `index` differs from the item that it handled last.
 void ApplyUnZipExisting(FormModel& form, int index);
 
+/// Change rule of optExist, behind ApplyExist: marks the destination page for any action.
+void MarkDestinationPage(FormModel& form);
 /// Image that the destination page starts with.
 [[nodiscard]] std::string_view DestinationMark(const FormModel& form);
 

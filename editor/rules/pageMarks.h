@@ -12,6 +12,8 @@ namespace kestedit {
 [[nodiscard]] std::string_view PageMark(const FormModel& form, Page page);
 
 /// "8" for a page that narrows or changes what the job does, none for one at its neutral choice.
-[[nodiscard]] inline std::string_view ChoiceMark(bool narrows) { return narrows ? image::applies : image::none; }
+[[nodiscard]] inline std::string_view ChoiceMark(bool narrows) {
+    return narrows ? image::applies : image::none;
+}
 
 }  // namespace kestedit

@@ -22,20 +22,24 @@ struct FolderFindings {
     PathFinding empty;
     PathFinding missing;
     PathFinding unusable;
+    PathFinding silent;
     bool FolderStatus::*usable;
 };
 
 constexpr FolderFindings sourceFindings{PathFinding::noSource, PathFinding::sourceMissing,
-                                        PathFinding::sourceUnreadable, &FolderStatus::readable};
+                                        PathFinding::sourceUnreadable, PathFinding::sourceNoAnswer,
+                                        &FolderStatus::readable};
 constexpr FolderFindings destinationFindings{PathFinding::noDestination, PathFinding::destinationMissing,
-                                             PathFinding::destinationNotWritable, &FolderStatus::writable};
+                                             PathFinding::destinationNotWritable, PathFinding::destinationNoAnswer,
+                                             &FolderStatus::writable};
 constexpr FolderFindings monitoredFindings{PathFinding::noMonitored, PathFinding::monitoredMissing,
-                                           PathFinding::monitoredUnreadable, &FolderStatus::readable};
+                                           PathFinding::monitoredUnreadable, PathFinding::monitoredNoAnswer,
+                                           &FolderStatus::readable};
 
 std::optional<PathFinding> judge(const EditorControl& field, const FolderStatus& status,
                                  const FolderFindings& findings) {
     if (field.isEmpty()) return findings.empty;
-    if (!status.answered) return PathFinding::noAnswer;
+    if (!status.answered) return findings.silent;
     if (!status.exists) return findings.missing;
     if (!(status.*findings.usable)) return findings.unusable;
     return std::nullopt;

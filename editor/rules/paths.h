@@ -33,13 +33,15 @@ enum class PathFinding {
     monitoredMissing,
     monitoredUnreadable,
     sourceNotWritable,  ///< and the job deletes files there, or writes to it
-    noAnswer
+    sourceNoAnswer,
+    destinationNoAnswer,
+    monitoredNoAnswer
 };
 
-/// Looks at source, destination (when the action has one) and monitored folder (when the schedule uses it). The whole look
-/// takes two seconds at most: a folder that has not answered by then is given up, and so are those behind it; what could
-/// be found out about the others comes first. A path is taken as it stands, without variables or wildcards. Never changes
-/// the form.
+/// Looks at source, destination (when the action has one) and monitored folder (when the schedule uses it). The whole
+/// look takes two seconds at most: a folder that has not answered by then is given up, and so are those behind it; what
+/// could be found out about the others comes first. A path is taken as it stands, without variables or wildcards. Never
+/// changes the form.
 [[nodiscard]] std::optional<PathFinding> CheckPaths(const FormModel& form, const FileSystem& files);
 
 }  // namespace kestedit

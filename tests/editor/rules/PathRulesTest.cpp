@@ -171,9 +171,9 @@ TEST_F(PathRules, SilentFolderIsReportedUnlessSomethingElseIsWrong) {
     files_.odd = {{path("dead"), silent}};
     for (const auto action : {Action::copy, Action::move}) {
         form_.act(action);
-        EXPECT_EQ(check("dead", "data"), PathFinding::noAnswer);
+        EXPECT_EQ(check("dead", "data"), PathFinding::sourceNoAnswer);
     }
-    EXPECT_EQ(check("data", "dead"), PathFinding::noAnswer);
+    EXPECT_EQ(check("data", "dead"), PathFinding::destinationNoAnswer);
     EXPECT_EQ(check("dead", "gone"), PathFinding::destinationMissing);
 }
 
