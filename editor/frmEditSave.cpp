@@ -55,7 +55,7 @@ bool hasInvalidNameChar(std::string_view name) {
 
 std::string joined(std::initializer_list<std::string_view> lines) {
     std::string text;
-    for (const std::string_view line : lines) {
+    for (const std::string_view& line : lines) {
         if (&line != lines.begin()) text += "\r\n";
         text += line;
     }
