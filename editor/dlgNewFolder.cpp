@@ -56,6 +56,8 @@ void dlgNewFolder::Load() {
     cmdCreate.Caption = texts_.ReadLanguageText(section, "t1", "&Erstellen", textSize);
     cmdCancel.Caption = texts_.ReadLanguageText("All", "t0", "&Abbrechen", textSize);
     cmdCreate.Enabled = false;
+    int index = 0;
+    for (EditorControl* control : {&dxTextEdit1, &cmdCreate, &cmdCancel}) control->TabIndex = index++;
 
     const std::string colour = platform_.settings.read("Options", "BGColor", "");
     std::int64_t number = 0;
@@ -92,13 +94,8 @@ void dlgNewFolder::create() {
     if (!field) return;
     const std::string name = dxTextEdit1.text();
     const std::string path = platform_.files.BuildPath(field->text(), name);
-    if (platform_.files.FolderExists(path)) {
-        const std::string_view fixed = serviceOf(form_.fMode)->fixedMessage;
-        report(fixed.empty() ? texts_.ReadLanguageText(section, "t2", "Ordner existiert schon.", textSize)
-                             : std::string{fixed});
-        return;
-    }
     try {
+        if (platform_.files.FolderExists(path)) return reportExisting();
         if (name.find('/') != std::string::npos) {
             throw std::filesystem::filesystem_error("cannot create folder", path,
                                                     std::make_error_code(std::errc::invalid_argument));
@@ -111,6 +108,12 @@ void dlgNewFolder::create() {
     field->EditValue = path;
     field->ToolTipText = path;
     open_ = false;
+}
+
+void dlgNewFolder::reportExisting() {
+    const std::string_view fixed = serviceOf(form_.fMode)->fixedMessage;
+    report(fixed.empty() ? texts_.ReadLanguageText(section, "t2", "Ordner existiert schon.", textSize)
+                         : std::string{fixed});
 }
 
 void dlgNewFolder::report(std::string_view text) {
