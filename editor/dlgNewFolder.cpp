@@ -57,7 +57,8 @@ void dlgNewFolder::Load() {
     cmdCancel.Caption = texts_.ReadLanguageText("All", "t0", "&Abbrechen", textSize);
     cmdCreate.Enabled = false;
     int index = 0;
-    for (EditorControl* control : {&dxTextEdit1, &cmdCreate, &cmdCancel}) control->TabIndex = index++;
+    for (EditorControl* control : {&dxTextEdit1, &cmdCreate, &cmdCancel})
+        control->TabIndex = index++;
 
     const std::string colour = platform_.settings.read("Options", "BGColor", "");
     std::int64_t number = 0;

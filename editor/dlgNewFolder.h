@@ -40,6 +40,7 @@ class KESTEDIT_EXPORT dlgNewFolder : public ControlRegistry {
   private:
     [[nodiscard]] EditorControl* pathField() const;
     void create();
+    void reportExisting();
     void report(std::string_view text);
 
     FormModel& form_;
