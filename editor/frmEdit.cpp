@@ -24,18 +24,24 @@ constexpr std::size_t editCaption = 1;
 constexpr std::string_view windowSection = "EditWin";
 constexpr std::string_view globalSection = "Global";
 
+// Nothing for a text that holds more or less than a number.
+std::optional<std::int64_t> wholeNumber(const std::string& text) {
+    const char* const last = text.data() + text.size();
+    std::int64_t number = 0;
+    const auto [end, error] = std::from_chars(text.data(), last, number);
+    return error == std::errc{} && end == last ? std::optional{number} : std::nullopt;
+}
+
 // A flag of the settings file: any whole number but 0 is on. What is no number keeps the default.
 bool flagOr(const std::string& text, bool fallback) {
-    int number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    return error == std::errc{} ? number != 0 : fallback;
+    const auto number = wholeNumber(text);
+    return number ? *number != 0 : fallback;
 }
 
 // A colour of the settings file: red, green and blue in the lower three bytes.
 std::int64_t colourOr(const std::string& text, std::int64_t fallback) {
-    std::int64_t number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    return error == std::errc{} && number >= 0 && number <= 0xFFFFFF ? number : fallback;
+    const auto number = wholeNumber(text);
+    return number && *number >= 0 && *number <= 0xFFFFFF ? *number : fallback;
 }
 
 }  // namespace
@@ -50,6 +56,7 @@ void frmEdit::Load() {
     readWindowSettings();
     loadTexts();
     chkEditPaths.State = editPaths_ ? 1 : 0;
+    ApplyEditPaths(*this);
     loadByMode();
     Navigation.RowColour =
         colourOr(ini_.ReadProgramSetting(globalSection, "RowBgCol", "14737632", textSize), Navigation.RowColour);
