@@ -31,17 +31,22 @@ struct RequiredField {
     std::size_t message;
 };
 
+// Whether a pattern is asked for. A group without a choice, as in a mode that loads nothing, takes everything.
+bool asksForPattern(const ControlArray<3>& group) {
+    return group.selected().value_or(0) != 0;
+}
+
 // Reporting the folder pattern clears the file pattern's flag, deliberately, so that its own report comes back until a
 // regular expression is allowed. Test: SaveJob.FolderPatternIsReportedAgainUntilRegEx.
 // clang-format off
 constexpr std::array requiredFields{
     RequiredField{&FormModel::dxRenamer,     [](const FormModel& form) { return form.optExist[2].isSet(); },
                   &FormModel::InvalidRenamerChars,     &FormModel::InvalidRenamerChars,  24},
-    RequiredField{&FormModel::dxFileName,    [](const FormModel& form) { return !form.optFileMatch[0].isSet(); },
+    RequiredField{&FormModel::dxFileName,    [](const FormModel& form) { return asksForPattern(form.optFileMatch); },
                   &FormModel::InvalidFileNameChars,    &FormModel::InvalidFileNameChars, 25},
-    RequiredField{&FormModel::dxFolderMatch, [](const FormModel& form) { return !form.optFolderMatch[0].isSet(); },
+    RequiredField{&FormModel::dxFolderMatch, [](const FormModel& form) { return asksForPattern(form.optFolderMatch); },
                   &FormModel::InvalidFolderMatchChars, &FormModel::InvalidFileNameChars, 37},
-    RequiredField{&FormModel::dxExt,         [](const FormModel& form) { return !form.optExt[0].isSet(); },
+    RequiredField{&FormModel::dxExt,         [](const FormModel& form) { return asksForPattern(form.optExt); },
                   &FormModel::InvalidExtChars,         &FormModel::InvalidExtChars,      26},
 };
 // clang-format on
