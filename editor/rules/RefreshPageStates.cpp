@@ -179,6 +179,7 @@ void ApplyLoadedChoices(FormModel& form) {
     ShowCompressionFrames(form);
     ShowDestinationFrames(form);
     ApplySyncStart(form);
+    ShowActionPicture(form, form.SelectedAction);
 }
 
 }  // namespace kestedit
