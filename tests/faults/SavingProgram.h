@@ -1,0 +1,55 @@
+// The real program, run in a folder of its own with faults in its way.
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "tests/platform/TemporaryFolder.h"
+
+namespace kestedit::test {
+
+/// What a folder holds, by relative path: the bytes of a file, "-> TARGET" for a symbolic link.
+using Files = std::map<std::string, std::string>;
+
+/// One run of `kestedit script`.
+struct Call {
+    std::string target;       ///< "new", or the edited job's path in the folder of the jobs
+    std::string script;       ///< its lines
+    std::string faults = "";  ///< "12:EIO,15:kill-after", by the number of the call
+    long clock = 0;           ///< seconds by which the program's clock is ahead
+    std::string move = "";    ///< "from:to", what another process does at a fault "replace"
+};
+
+struct Outcome {
+    int code = -1;  ///< -1: killed
+    std::string error;
+    std::vector<std::string> calls;  ///< names of the system calls that concerned the jobs, in order
+};
+
+/// A folder of jobs, and the program that works on it.
+class SavingProgram {
+  public:
+    SavingProgram();
+
+    [[nodiscard]] const std::filesystem::path& root() const { return folder_.path(); }
+    [[nodiscard]] std::filesystem::path jobs() const { return folder_.path() / "jobs"; }
+
+    [[nodiscard]] Outcome run(const Call& call) const;
+
+    /// What the folder of the jobs holds, temporary files apart.
+    [[nodiscard]] Files files() const;
+    [[nodiscard]] std::size_t temporaries() const;
+    /// Makes the folder hold these files and nothing else.
+    void restore(const Files& files) const;
+
+  private:
+    TemporaryFolder folder_;
+};
+
+/// The keys of a job by "SECTION/KEY", read by rules of the test's own; throws std::runtime_error when a line is broken
+/// or the job is not whole.
+[[nodiscard]] std::map<std::string, std::string> wholeJob(const std::string& bytes);
+
+}  // namespace kestedit::test
