@@ -167,7 +167,8 @@ void FormWindow::showFocus(const EditorControl* before) {
         if (!target || target == present || target->focusWidgets().empty()) return;
         QWidget* const widget = target->focusWidgets().front();
         widget->setFocus(Qt::OtherFocusReason);
-        if (PageArea* const area = currentPage(); area && area->isAncestorOf(widget)) area->ensureWidgetVisible(widget);
+        PageArea* const area = currentPage();
+        if (isVisible() && area && area->isAncestorOf(widget)) area->ensureWidgetVisible(widget);
     } else if (present && &present->control() != wanted) {
         form_.onFocused(present->control());
     }

@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QRadioButton>
 #include <algorithm>
+#include <span>
 
 #include "desktop/bindings/Kinds.h"
 
@@ -72,7 +73,7 @@ class OptionBinding final : public Binding {
 
   private:
     QRadioButton& button_;
-    const std::vector<EditorControl*> members_;
+    const std::span<EditorControl* const> members_;
 };
 
 }  // namespace

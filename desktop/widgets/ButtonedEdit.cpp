@@ -18,6 +18,7 @@ ButtonedEdit::ButtonedEdit(QWidget* parent) : QWidget(parent), line_(new QLineEd
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(4);
     row->addWidget(line_, 1);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setFocusPolicy(Qt::StrongFocus);
     setFocusProxy(line_);
 }

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <type_traits>
 
+#include "desktop/widgets/MnemonicSlack.h"
+
 namespace kestedit {
 
 namespace {
@@ -47,6 +49,11 @@ int ChoiceButton<Button>::captionOffset() const {
 template <typename Button>
 QSize ChoiceButton<Button>::captionSize(int width) const {
     return this->fontMetrics().boundingRect(QRect(0, 0, width, QWIDGETSIZE_MAX), textFlags, this->text()).size();
+}
+
+template <typename Button>
+QSize ChoiceButton<Button>::sizeHint() const {
+    return Button::sizeHint() + QSize(mnemonicSlack(this->fontMetrics(), this->text()), 0);
 }
 
 template <typename Button>

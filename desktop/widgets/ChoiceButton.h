@@ -12,6 +12,7 @@ class ChoiceButton : public Button {
   public:
     explicit ChoiceButton(QWidget* parent = nullptr);
 
+    [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
     [[nodiscard]] bool hasHeightForWidth() const override { return true; }
     [[nodiscard]] int heightForWidth(int width) const override;

@@ -18,15 +18,26 @@ constexpr int keyDown = 40;
 constexpr int imageSize = 16;
 constexpr int imageColumnWidth = 32;
 constexpr int rowPadding = 10;
+constexpr int edge = 8;
 
-/// Lines with air between them.
+/// Lines with air between them, as high as their titles need at the column's width.
 class RowDelegate final : public QStyledItemDelegate {
   public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    explicit RowDelegate(NodeList& list) : QStyledItemDelegate(&list), list_(list) {}
 
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, rowPadding);
+        const int room = std::max(1, list_.columnWidth(0) - list_.indentation() - 2 * textMargin());
+        const QRect title = option.fontMetrics.boundingRect(QRect(0, 0, room, QWIDGETSIZE_MAX), Qt::TextWordWrap,
+                                                            index.siblingAtColumn(0).data().toString());
+        return {room, std::max(title.height(), imageSize + 2) + rowPadding};
     }
+
+  private:
+    [[nodiscard]] int textMargin() const {
+        return list_.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &list_) + 1;
+    }
+
+    NodeList& list_;
 };
 
 QColor colourOf(std::int64_t blueGreenRed) {
@@ -45,7 +56,9 @@ bool hasOrdinaryColours(const NavigationList& list) {
 NodeList::NodeList(QWidget* parent) : QTreeWidget(parent) {
     setColumnCount(2);
     setHeaderHidden(true);
-    setRootIsDecorated(false);
+    setItemsExpandable(false);
+    setIndentation(edge);
+    setViewportMargins(0, edge, 0, edge);
     setUniformRowHeights(false);
     setWordWrap(true);
     setTextElideMode(Qt::ElideNone);
@@ -53,7 +66,7 @@ NodeList::NodeList(QWidget* parent) : QTreeWidget(parent) {
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(ScrollPerPixel);
     setIconSize({imageSize, imageSize});
-    setItemDelegate(new RowDelegate(this));
+    setItemDelegate(new RowDelegate(*this));
     setFrameShape(QFrame::NoFrame);
     header()->setStretchLastSection(false);
     header()->setMinimumSectionSize(imageColumnWidth);
@@ -84,11 +97,25 @@ void NodeList::show(const NavigationList& list, const std::function<QString(std:
     if (currentRow() != list.FocusedNode) setCurrentItem(topLevelItem(list.FocusedNode));
 }
 
+int NodeList::widthFor(int title) const {
+    const int frame = imageColumnWidth + edge + 12;
+    return title + frame + style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+}
+
 QSize NodeList::sizeHint() const {
     int widest = 0;
     for (const NavigationNode& node : shown_.Nodes)
         widest = std::max(widest, fontMetrics().horizontalAdvance(toQt(node.Title)));
-    return {widest + imageColumnWidth + 24, 300};
+    return {widthFor(widest), 300};
+}
+
+QSize NodeList::minimumSizeHint() const {
+    int widest = 0;
+    for (const NavigationNode& node : shown_.Nodes) {
+        for (const QString& word : toQt(node.Title).split(u' '))
+            widest = std::max(widest, fontMetrics().horizontalAdvance(word));
+    }
+    return {widthFor(widest), 80};
 }
 
 void NodeList::keyPressEvent(QKeyEvent* event) {

@@ -20,7 +20,8 @@ class NodeList : public QTreeWidget {
     void show(const NavigationList& list, const std::function<QString(std::string_view image)>& meaning);
 
     [[nodiscard]] QSize sizeHint() const override;
-    [[nodiscard]] QSize minimumSizeHint() const override { return {120, 80}; }
+    /// As wide as the longest word: titles break, words do not.
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
   signals:
     void nodeChosen(int position);
@@ -38,6 +39,7 @@ class NodeList : public QTreeWidget {
     void showColours();
     void showImages();
     [[nodiscard]] int currentRow() const;
+    [[nodiscard]] int widthFor(int title) const;
 
     NavigationList shown_;
     std::function<QString(std::string_view)> meaning_;

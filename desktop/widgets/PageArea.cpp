@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QScrollBar>
+#include <algorithm>
 
 namespace kestedit {
 

@@ -23,6 +23,7 @@ class PageArea : public QScrollArea {
   protected:
     void hideEvent(QHideEvent* event) override;
     void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void limitWidth();
