@@ -1,4 +1,6 @@
 # libkestEditDesktop: the window, for hosts that want it. Its headers need no toolkit.
+find_package(Qt6 REQUIRED COMPONENTS Widgets Svg)
+
 install_public_header(desktop/DesktopFrontEnd.h libkestedit-dev)
 install_public_header(desktop/kestEditDesktop.h libkestedit-dev)
 

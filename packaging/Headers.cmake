@@ -21,6 +21,8 @@ set(public_headers
   component/FrontEnd.h
   editor/EditorControl.h
   editor/FormModel.h
+  editor/PatternHint.h
+  editor/WindowTexts.h
   editor/dlgNewFolder.h
   editor/frmEdit.h
   persistence/ComponentValues.h
@@ -34,14 +36,12 @@ function(install_public_header header component)
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${header})
   file(READ ${PROJECT_SOURCE_DIR}/${header} content)
   string(REGEX REPLACE "#include \"([^\"]+)\"" "#include <kestEdit/\\1>" content "${content}")
-  cmake_path(GET header FILENAME name)
-  cmake_path(GET header PARENT_PATH folder)
-  # The C headers stand where hosts look first.
-  if(name MATCHES "^kestEdit")
-    set(folder "")
-  endif()
-  file(CONFIGURE OUTPUT ${public_include_dir}/kestEdit/${folder}/${name} CONTENT "${content}" @ONLY)
-  install(FILES ${public_include_dir}/kestEdit/${folder}/${name}
+  # The C headers (kestEdit.h, kestEditDesktop.h) stand where hosts look first.
+  string(REGEX REPLACE "<kestEdit/[a-z]+/kestEdit" "<kestEdit/kestEdit" content "${content}")
+  string(REGEX REPLACE "^[a-z]+/kestEdit" "kestEdit" place ${header})
+  file(CONFIGURE OUTPUT ${public_include_dir}/kestEdit/${place} CONTENT "${content}" @ONLY)
+  cmake_path(GET place PARENT_PATH folder)
+  install(FILES ${public_include_dir}/kestEdit/${place}
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/kestEdit/${folder} COMPONENT ${component})
 endfunction()
 

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that a job needs and this machine lacks; does nothing when all are there.
-#   scripts/setup.sh [build|bench|lint]...     (default: build)
+#   scripts/setup.sh [build|bench|lint|package]...     (default: build)
 set -euo pipefail
 
 build=(
@@ -10,6 +10,10 @@ build=(
     ccache
     libcli11-dev
     libgtest-dev
+    qt6-base-dev
+    qt6-svg-dev
+    pkg-config
+    python3
 )
 bench=(
     libbenchmark-dev
@@ -19,6 +23,13 @@ lint=(
     clang-format
     clang-tidy
 )
+package=(
+    dpkg-dev
+    file
+    lintian
+    desktop-file-utils
+    debootstrap
+)
 
 fail() {
     echo "setup.sh: $*" >&2
@@ -27,7 +38,7 @@ fail() {
 
 missing=()
 for group in "${@:-build}"; do
-    [[ $group == build || $group == bench || $group == lint ]] || fail "unknown group '$group': build, bench or lint"
+    [[ $group =~ ^(build|bench|lint|package)$ ]] || fail "unknown group '$group': build, bench, lint or package"
     declare -n packages=$group
     for package in "${packages[@]}"; do
         # A package that was removed but not purged is still known, with another status.
