@@ -3,6 +3,7 @@
 #include <array>
 #include <span>
 
+#include "editor/NodeImages.h"
 #include "editor/modSpinButtons.h"
 #include "editor/rules/action.h"
 #include "editor/rules/attributes.h"
@@ -169,6 +170,10 @@ void RefreshPageStates(FormModel& form, std::string_view what, int viewLevel, in
 
 void SetNodeIFace(FormModel& form, int position, int viewLevel, std::string_view text) {
     RefreshPageStates(form, text, viewLevel, position);
+    // The page with the notes is headed as its node is: in view 23 it holds the notes alone.
+    if (nodeOfPage(form, Page::comment) == position) {
+        form.lblNamePath.Caption = form.Navigation.Nodes.at(static_cast<std::size_t>(position)).Title;
+    }
     // View 9 has no rule pass; its last page follows the action all the same.
     if (viewLevel == 9) ShowDestinationFrames(form);
 }

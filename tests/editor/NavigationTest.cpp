@@ -60,6 +60,14 @@ TEST_F(Navigation, SteppingShowsEveryPageOfTheViewOnceAndGoesRound) {
     }
 }
 
+TEST_F(Navigation, PageOfTheNotesIsHeadedAsItsNode) {
+    create(4);
+    EXPECT_EQ(form().lblNamePath.Caption, "Auftragsname und Notizen");
+    create(23);
+    form().onNodeClicked(9);
+    EXPECT_EQ(form().lblNamePath.Caption, "Kommentare");
+}
+
 TEST_F(Navigation, View23PairsNameWithPaths) {
     create(23);
     EXPECT_EQ(title(0), "Auftragsname und Notizen");
