@@ -49,6 +49,7 @@ class KESTEDIT_EXPORT frmEdit : public FormModel {
     void onTextTyped(EditorControl& control, std::string_view text);
     /// The user has left a field or confirmed it: checks that look at the disk run now and not while typing.
     void onEditingFinished(EditorControl& control);
+    /// A state or a choice that holds already is no change, and no rule runs.
     void onCheckClicked(EditorControl& control, int state);
     void onOptionChosen(EditorControl& member);
     /// Refused when `text` is not an entry of the list.

@@ -113,12 +113,14 @@ void frmEdit::onEditingFinished(EditorControl& control) {
 void frmEdit::onCheckClicked(EditorControl& control, int state) {
     requireReachable(control, {ControlKind::check});
     if (state < 0 || state > 2) throw EventRefused(control.Name() + " takes 0, 1 or 2");
+    if (control.State == state) return;
     control.State = state;
     changed(control);
 }
 
 void frmEdit::onOptionChosen(EditorControl& member) {
     requireReachable(member, {ControlKind::option});
+    if (member.isSet()) return;
     for (EditorControl* other : group(member.Base))
         other->State = other == &member ? 1 : 0;
     changed(member);

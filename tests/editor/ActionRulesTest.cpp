@@ -153,6 +153,18 @@ TEST_F(ActionRules, ComparingOnlyTakesAwayToKeepExistingFiles) {
     EXPECT_EQ(form().optSyncExist[0].Caption, text(72));
 }
 
+// A window reports the click on an option that is chosen already; it must not decide anew what the job has decided.
+TEST_F(ActionRules, ChoosingTheSameAgainChangesNothing) {
+    create();
+    act(5);
+    choose("optSyncExist", 2);
+    const auto before = dumpOf(form());
+    act(5);
+    check("chkOnlyCompare", 0);
+    EXPECT_EQ(test::differences(before, dumpOf(form())), "");
+    EXPECT_EQ(form().optSyncExist.selected(), 2);
+}
+
 // Of these no page's own rule is needed: view 9 has none.
 TEST_F(ActionRules, ChoosingAnActionTakesAwayWhatDoesNotApply) {
     for (const int view : {4, 9}) {
