@@ -36,8 +36,8 @@ constexpr const char* scriptPointer =
 
 constexpr const char* iniExamples = R"(Examples:
   kestedit ini get backup.job Job SubFolder --default 0
-  kestedit ini set backup.job Job Source /data/in
-  kestedit ini set backup.job Job Days -- -5       a value that begins with "-" stands behind "--")";
+  kestedit ini set backup.job Job From /data/in
+  kestedit ini set backup.job Job RenameTxt -- -5  a value that begins with "-" stands behind "--")";
 
 template <class Number>
 Number wholeNumber(const std::string& option, const std::string& text, Number least) {
@@ -67,7 +67,7 @@ std::string eventList() {
 Example:
   printf 'type dxName Night\nchoose optAction 3\nclick cmdSave\n' | kestedit script --job-dir jobs new
 
-The last line printed is "event SearchJobs", "event SetNewValues" or "event none".)";
+The last line printed is event SearchJobs, event SetNewValues "" or event none.)";
     return list.str();
 }
 
