@@ -41,7 +41,7 @@ Text textOf(PathFinding finding) {
         case PathFinding::monitoredUnreadable:
             return {"t5", "Der überwachte Ordner kann nicht gelesen werden."};
         case PathFinding::sourceNotWritable:
-            return {"t15", "Im Quellverzeichnis können keine Dateien gelöscht werden."};
+            return {"t15", "In das Quellverzeichnis kann nicht geschrieben werden."};
         case PathFinding::sourceNoAnswer:
         case PathFinding::destinationNoAnswer:
         case PathFinding::monitoredNoAnswer:
