@@ -87,6 +87,10 @@ std::string FindingText(const modIniHandler& texts, ScheduleFinding finding) {
     return read(texts, textOf(finding));
 }
 
+bool IsStorablePath(const CodePage& page, std::string_view path) {
+    return page.encode(path) && path.find_first_of("\r\n") == std::string_view::npos;
+}
+
 std::string UnstorableText(const modIniHandler& texts, std::string_view text) {
     return filledIn(read(texts, {"t20", "Der Text enthält Zeichen, die die Auftragsdatei nicht speichern kann: %1"}),
                     text);

@@ -63,8 +63,9 @@ void dlgNewFolder::Load() {
     const std::string colour = platform_.settings.read("Options", "BGColor", "");
     std::int64_t number = 0;
     if (colour.size() < 2) return;
-    const auto [end, error] = std::from_chars(colour.data(), colour.data() + colour.size(), number);
-    if (error == std::errc{} && number >= 0) BackColour = number;
+    const char* const last = colour.data() + colour.size();
+    const auto [end, error] = std::from_chars(colour.data(), last, number);
+    if (error == std::errc{} && end == last && number >= 0 && number <= 0xFFFFFF) BackColour = number;
 }
 
 EditorControl* dlgNewFolder::pathField() const {
@@ -74,7 +75,7 @@ EditorControl* dlgNewFolder::pathField() const {
 
 void dlgNewFolder::onTextTyped(EditorControl& control, std::string_view text) {
     if (&control != &dxTextEdit1) throw EventRefused(control.Name() + " takes no text");
-    if (!platform_.ini.codePage().encode(text)) throw EventRefused(UnstorableText(texts_, text));
+    if (!IsStorablePath(platform_.ini.codePage(), text)) throw EventRefused(UnstorableText(texts_, text));
     dxTextEdit1.EditValue = std::string{text};
     cmdCreate.Enabled = characterCount(text) >= shortestName;
 }

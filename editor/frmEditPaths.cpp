@@ -47,7 +47,7 @@ void frmEdit::browsePath(EditorControl& control) {
     const std::string folder =
         BrowseForFolder(platform_.prompts, title, control.text(), true, std::nullopt, true, false);
     if (folder.empty()) return;
-    if (!platform_.ini.codePage().encode(folder)) throw EventRefused(UnstorableText(ini_, folder));
+    if (!IsStorablePath(platform_.ini.codePage(), folder)) throw EventRefused(UnstorableText(ini_, folder));
     control.EditValue = folder;
     control.ToolTipText = folder;
     changed(control);
@@ -69,12 +69,13 @@ void frmEdit::browseExecPath(int button) {
                                                     TextCatalogue[programFilter] + std::string{programPatterns}, 1,
                                                     hideReadOnlyBox | fileMustExist});
     if (!file) return;
-    if (!platform_.ini.codePage().encode(*file)) throw EventRefused(UnstorableText(ini_, *file));
+    if (!IsStorablePath(platform_.ini.codePage(), *file)) throw EventRefused(UnstorableText(ini_, *file));
     dxExecPath.EditValue = *file;
     changed(dxExecPath);
 }
 
 void frmEdit::checkPaths() {
+    checkedDemands_ = DemandsOnFolders(*this);
     const auto finding = CheckPaths(*this, platform_.files);
     lblChkPathMsg.Caption = finding ? FindingText(ini_, *finding, *this) : std::string{};
     lblChkPathMsg.Visible = finding.has_value();

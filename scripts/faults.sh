@@ -10,6 +10,6 @@ if [[ ${1-} == --short ]]; then mode=; fi
 
 scripts/setup.sh build
 cmake --preset release >/dev/null
-cmake --build --preset release --parallel "$(nproc)" --target faults_test >/dev/null
+cmake --build --preset release --parallel "$(nproc)" --target kestedit_faults >/dev/null
 if [[ -z ${TMPDIR-} && -w /dev/shm ]]; then export TMPDIR=/dev/shm; fi
-build/release/tests/faults/faults_test $mode
+build/release/tests/faults/kestedit_faults $mode

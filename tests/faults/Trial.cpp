@@ -16,6 +16,8 @@ constexpr std::string_view kills[] = {"kill-before", "kill-after"};
 constexpr std::string_view transfers[] = {"read", "write"};
 /// A call that a signal interrupts is made again, so its failure must be none of the save's.
 constexpr std::string_view interruptible[] = {"open", "read", "write", "fsync", "close", "rename", "unlink"};
+/// A save that goes on when one of these has failed, up to its last rename, has lost data.
+constexpr std::string_view indispensable[] = {"write", "fsync", "rename"};
 
 bool isOneOf(std::string_view word, std::span<const std::string_view> words) {
     return std::ranges::find(words, word) != words.end();
@@ -127,6 +129,10 @@ void Trial::fail(std::size_t number, std::string_view action) {
     const Outcome outcome = tryFaults(fault);
     const bool interrupted = action == "short" || (action == "EINTR" && isOneOf(calls_[number - 1], interruptible));
     if (interrupted && outcome.code != 0) report(where(fault), "an interruption fails the save: " + outcome.error);
+    const bool behindRename =
+        std::find(calls_.begin() + static_cast<std::ptrdiff_t>(number - 1), calls_.end(), "rename") == calls_.end();
+    if (!interrupted && !behindRename && isOneOf(calls_[number - 1], indispensable) && outcome.code == 0)
+        report(where(fault), "the failure is lost");
 }
 
 /// The calls that answer the first fault fail as well.

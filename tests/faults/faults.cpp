@@ -2,7 +2,7 @@
 // error, and the program is killed on either side of it. Whatever happens, each job must be whole, the old one or the
 // new one, and the next save must work. Prints what was tried; any finding is a line on the standard error and exit
 // code 1.
-//   faults_test [--full]     --full: more errors, a second fault behind each first one, 10,000 saves under a reader
+//   kestedit_faults [--full]     --full: more errors, a second fault behind each first one, 10,000 saves under a reader
 #include <atomic>
 #include <cstdio>
 #include <iostream>
@@ -96,7 +96,7 @@ void saveUnderReader(const SavingProgram& program, int saves) {
 int main(int argc, char** argv) {
     const bool full = argc == 2 && std::string_view(argv[1]) == "--full";
     if (argc > 1 && !full) {
-        std::cerr << "usage: faults_test [--full]\n";
+        std::cerr << "usage: kestedit_faults [--full]\n";
         return 2;
     }
     const SavingProgram program;
