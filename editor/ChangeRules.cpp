@@ -10,6 +10,7 @@
 #include "editor/rules/conditions.h"
 #include "editor/rules/dateAge.h"
 #include "editor/rules/existing.h"
+#include "editor/rules/jobName.h"
 #include "editor/rules/paths.h"
 #include "editor/rules/schedule.h"
 #include "editor/rules/selection.h"
@@ -26,6 +27,8 @@ void run(FormModel& form, int /*member*/) {
 
 // clang-format off
 constexpr std::array rows{
+    // the name
+    ChangeRule{"dxName",              run<ApplyJobName>},
     // the action
     ChangeRule{"optAction",           run<ApplyAction, ApplyDestinationPath, ApplyMonitorPath, ApplySourceAttributes,
                                           ApplyDestAttributes, ShowCompressionFrames, ShowDestinationFrames>},

@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "editor/FormModel.h"
+#include "editor/rules/paths.h"
 #include "persistence/ComponentValues.h"
 #include "persistence/JobStore.h"
 #include "persistence/modIniHandler.h"
@@ -92,6 +93,7 @@ class KESTEDIT_EXPORT frmEdit : public FormModel {
     void showPage(int position);
     void focus(EditorControl& control);
     void checkPaths();
+    void checkSchedule();
     void browsePath(EditorControl& control);
     void browseExecPath(int button);
     void createFolder(EditorControl& control);
@@ -113,6 +115,7 @@ class KESTEDIT_EXPORT frmEdit : public FormModel {
     bool loading_ = true;
     bool open_ = true;
     bool timerRunning_ = true;
+    FolderDemands checkedDemands_;  ///< those that the path check last looked at
     bool editPaths_ = true;
 };
 

@@ -66,6 +66,10 @@ void settleDuration(FormModel& form, const EditorControl& stepped, bool up) {
         if (&stepped == &hours) SpinHours(minutes, hours, days, up);
         if (&stepped == &days) SpinDays(minutes, hours, days, up);
     }
+    // A finding goes as soon as the user has mended it. The disk is asked only when the job wants other things from it.
+    if (timerRunning_) return;
+    checkSchedule();
+    if (DemandsOnFolders(*this) != checkedDemands_) checkPaths();
 }
 
 bool isDays(const FormModel& form, const EditorControl& control) {
@@ -227,10 +231,14 @@ void frmEdit::onFocused(EditorControl& control) {
 void frmEdit::onTimer() {
     if (!timerRunning_) return;
     checkPaths();
+    checkSchedule();
+    timerRunning_ = false;
+}
+
+void frmEdit::checkSchedule() {
     const auto finding = CheckSchedule(*this, platform_.clock.now());
     lblChkTimeMsg.Caption = finding ? FindingText(ini_, *finding) : std::string{};
     lblChkTimeMsg.Visible = finding.has_value();
-    timerRunning_ = false;
 }
 
 void frmEdit::onCloseBox() {

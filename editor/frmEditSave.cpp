@@ -84,7 +84,9 @@ bool frmEdit::validate() {
         return false;
     }
     for (const RequiredField& row : requiredFields) {
-        if (!row.active(*this) || !((this->*row.field).isEmpty() || this->*row.flag)) continue;
+        // What the present choices take away, the user could not fill in.
+        if (!row.active(*this) || obstacle(this->*row.field)) continue;
+        if (!(this->*row.field).isEmpty() && !(this->*row.flag)) continue;
         reportInvalid(this->*row.field, row.message);
         this->*row.clears = false;
         return false;
@@ -117,7 +119,10 @@ void frmEdit::saveNew(const std::string& name) {
 void frmEdit::saveEdited(const std::string& name) {
     if (name.empty()) {
         // The text is looked up under the key of the last line, deliberately. Test: SaveJob.EmptyNameOfAnEditedJob.
-        if (askForName(Buttons::yesNo, "t6") == Answer::yes) dxName.EditValue = LoadedName;
+        if (askForName(Buttons::yesNo, "t6") == Answer::yes) {
+            dxName.EditValue = LoadedName;
+            changed(dxName);
+        }
         focus(dxName);
         return;
     }

@@ -11,6 +11,7 @@
 #include "editor/rules/conditions.h"
 #include "editor/rules/dateAge.h"
 #include "editor/rules/existing.h"
+#include "editor/rules/jobName.h"
 #include "editor/rules/paths.h"
 #include "editor/rules/schedule.h"
 #include "editor/rules/selection.h"
@@ -34,11 +35,6 @@ struct PageRule {
     int position;
     Rule rule;
 };
-
-// The name itself as tool tip: a long one does not fit into its field.
-void ShowWholeName(FormModel& form) {
-    form.dxName.ToolTipText = form.dxName.text();
-}
 
 // clang-format off
 constexpr std::array wholePass{
@@ -68,7 +64,7 @@ constexpr std::array wholePass{
 };
 
 constexpr std::array completePages{
-    PageRule{ 0, ShowWholeName},
+    PageRule{ 0, ApplyJobName},
     PageRule{ 2, ApplyEditPaths},
     PageRule{ 2, ApplyDestinationPath},
     PageRule{ 2, RefreshPathTexts},
@@ -87,10 +83,9 @@ constexpr std::array completePages{
     PageRule{12, ShowDestinationFrames},
 };
 
-// Positions 3 to 6 show other pages here than their rules belong to. Runners of the reduced editor rely on nothing of it,
-// and the rules do no harm. Test: RefreshPageStates.View15RunsRulesByPosition.
+// Positions 3 to 6 show other pages here than their rules belong to, deliberately; the rules do no harm there. Test: RefreshPageStates.View15RunsRulesByPosition.
 constexpr std::array pagesWithoutSchedule{
-    PageRule{ 0, ShowWholeName},
+    PageRule{ 0, ApplyJobName},
     PageRule{ 0, ShowCompressionFrames},
     PageRule{ 2, ApplyEditPaths},
     PageRule{ 2, ApplyDestinationPath},
@@ -111,7 +106,7 @@ constexpr std::array pagesWithoutSchedule{
 };
 
 constexpr std::array smallPages{
-    PageRule{0, ShowWholeName},
+    PageRule{0, ApplyJobName},
     PageRule{0, ApplyEditPaths},
     PageRule{0, ApplyDestinationPath},
     PageRule{0, RefreshPathTexts},
@@ -125,15 +120,18 @@ constexpr std::array smallPages{
     PageRule{8, ShowDestinationFrames},
 };
 
-// Everything that a choice can change, in the order of the pages. The action's own rule is not among them: it would choose
-// anew what the job has chosen.
-constexpr std::array<Rule, 27> choices{
-    ReflectOnlyCompare,    ApplyEditPaths,      ApplyDestinationPath, RefreshPathTexts,     UpdateIntervalUnitLabels, ApplyIntervall,
-    ApplyRunTime,          ApplyMonitorPath,    ApplyInactive,        ApplyFreeSpace,           ApplyExecDo,
-    ApplySubFolder,        UpdateFolderNameCaption, ApplyFileMatch,   UpdateFileNameCaption,    ApplyExt,
-    ApplySize,             UpdateAgeUnitLabels, ApplyAge,             ApplyDestFileTime,        ApplyDestFileTimePage,
-    ApplySourceAttributes, ApplyDestAttributes, FillCompressionLevels, ApplyExist,              ApplyRenameText,
-    ApplyRenameScheme,
+// Everything that a choice can change, a row for each page or topic. The action's own rule is not among them: it would
+// choose anew what the job has chosen.
+constexpr Rule choices[] = {
+    ReflectOnlyCompare, ApplyEditPaths, ApplyDestinationPath, RefreshPathTexts,
+    UpdateIntervalUnitLabels, ApplyIntervall, ApplyMonitorPath,
+    ApplyInactive, ApplyFreeSpace, ApplyExecDo,
+    ApplySubFolder, UpdateFolderNameCaption, ApplyFileMatch, UpdateFileNameCaption,
+    ApplyExt, ApplySize,
+    UpdateAgeUnitLabels, ApplyAge, ApplyDestFileTime, ApplyDestFileTimePage,
+    ApplySourceAttributes, ApplyDestAttributes,
+    FillCompressionLevels, ShowCompressionFrames,
+    ApplyExist, ApplyRenameText, ApplyRenameScheme, ShowDestinationFrames, ApplySyncStart,
 };
 // clang-format on
 
@@ -181,9 +179,6 @@ void SetNodeIFace(FormModel& form, int position, int viewLevel, std::string_view
 void ApplyLoadedChoices(FormModel& form) {
     for (const Rule rule : choices)
         rule(form);
-    ShowCompressionFrames(form);
-    ShowDestinationFrames(form);
-    ApplySyncStart(form);
     ShowActionPicture(form, form.SelectedAction);
 }
 

@@ -88,14 +88,15 @@ class PathCheck {
         : form_(form), files_(files), end_(std::chrono::steady_clock::now() + checkTime) {}
 
     std::optional<PathFinding> run() {
+        const FolderDemands demands = DemandsOnFolders(form_);
         const FolderStatus source = look(form_.dxSource, sourceFindings);
-        if (HasDestination(form_)) {
+        if (demands.destination) {
             look(form_.dxDest, destinationFindings);
             compare();
         }
-        if (watchesOwnFolder(form_)) look(form_.dxMonitorPath, monitoredFindings);
+        if (demands.monitored) look(form_.dxMonitorPath, monitoredFindings);
         const bool writable = !source.answered || source.writable;
-        if (!writable && changesSource(form_)) found_.push_back(PathFinding::sourceNotWritable);
+        if (!writable && demands.writableSource) found_.push_back(PathFinding::sourceNotWritable);
         // The enumerators stand in the order in which findings are shown.
         return found_.empty() ? std::nullopt : std::optional{std::ranges::min(found_)};
     }
@@ -133,6 +134,10 @@ class PathCheck {
 
 bool HasDestination(const FormModel& form) {
     return selectedAction(form) != Action::remove;
+}
+
+FolderDemands DemandsOnFolders(const FormModel& form) {
+    return {HasDestination(form), watchesOwnFolder(form), changesSource(form)};
 }
 
 void ApplyDestinationPath(FormModel& form) {

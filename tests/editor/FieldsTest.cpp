@@ -187,6 +187,16 @@ TEST_F(Events, LineBreaksStayInNotesOnly) {
     EXPECT_EQ(form().dxComment.text(), "a\r\nb\r\nc\r\nd e");
 }
 
+TEST_F(Events, TipOfTheNameFollowsItInEveryView) {
+    putJob("a", "[Job]\nName=a\n");
+    for (const int view : test::allViews) {
+        edit("a", view);
+        EXPECT_EQ(form().dxName.ToolTipText, "a") << view;
+        type("dxName", "a long name");
+        EXPECT_EQ(form().dxName.ToolTipText, "a long name") << view;
+    }
+}
+
 TEST_F(Events, OnlyTheRightButtonOnFiveFieldsSuppressesTheirMenu) {
     create();
     const std::set<std::string> fields{"dxExt", "dxSize", "dxName", "dxSource", "dxDest"};
@@ -305,7 +315,8 @@ TEST_F(NewFolder, ButtonNeedsTwoCharacters) {
 TEST_F(NewFolder, ColourComesFromTheUsersSettings) {
     openFields();
     const std::pair<std::string, std::optional<std::int64_t>> rows[] = {
-        {"16711680", 16711680}, {"", std::nullopt}, {"5", std::nullopt}, {"blue", std::nullopt}, {"10", 10}};
+        {"16711680", 16711680},    {"", std::nullopt},        {"5", std::nullopt}, {"blue", std::nullopt}, {"10", 10},
+        {"12 blue", std::nullopt}, {"16777216", std::nullopt}};
     for (const auto& [stored, colour] : rows) {
         settings.write("Options", "BGColor", stored);
         prompts.newFolder = [&](dlgNewFolder& dialog) { EXPECT_EQ(dialog.BackColour, colour) << stored; };

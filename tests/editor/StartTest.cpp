@@ -95,14 +95,38 @@ TEST_F(Start, TimerChecksPathsAndScheduleOnce) {
     EXPECT_EQ(form().lblChkPathMsg.Caption, "Es ist kein Quellverzeichnis angegeben.");
     EXPECT_EQ(form().lblChkTimeMsg.Caption, "Zwischen zwei Läufen muss mindestens eine Minute liegen.");
     EXPECT_TRUE(form().lblChkPathMsg.Visible && form().lblChkTimeMsg.Visible);
-    number("dxHours", 1);
+    form().dxSource.EditValue = jobs.string();
     form().onTimer();
-    EXPECT_TRUE(form().lblChkTimeMsg.Visible) << "it fires once only";
+    EXPECT_EQ(form().lblChkPathMsg.Caption, "Es ist kein Quellverzeichnis angegeben.") << "it fires once only";
     type("dxSource", jobs.string());
     type("dxDest", "/");
     EXPECT_EQ(form().lblChkPathMsg.Caption, "Es ist kein Quellverzeichnis angegeben.") << "not while typing";
     form().onEditingFinished(form().dxDest);
     EXPECT_EQ(form().lblChkPathMsg.Caption, "Das Quellverzeichnis liegt im Zielverzeichnis.");
+}
+
+TEST_F(Start, FindingsFollowTheChoicesThatTheyDependOn) {
+    create();
+    number("dxHours", 0);
+    type("dxSource", jobs.string());
+    EXPECT_FALSE(form().lblChkTimeMsg.Visible) << "not before the timer";
+    form().onTimer();
+    EXPECT_EQ(form().lblChkPathMsg.Caption, "Für diese Aktion ist kein Zielverzeichnis angegeben.");
+    act(2);
+    EXPECT_FALSE(form().lblChkPathMsg.Visible) << "deleting needs none";
+    act(0);
+    EXPECT_TRUE(form().lblChkPathMsg.Visible);
+    act(2);
+    number("dxMinutes", 1);
+    EXPECT_FALSE(form().lblChkTimeMsg.Visible);
+    choose("optIntervall", 1);
+    choose("optIntTime", 3);
+    form().onDateChosen(form().dxDate, addDays(test::now.date, -1));
+    EXPECT_EQ(form().lblChkTimeMsg.Caption, "Der gewählte Zeitpunkt ist schon vorbei.");
+    choose("optIntervall", 2);
+    EXPECT_FALSE(form().lblChkTimeMsg.Visible);
+    choose("optMonitorPath", 2);
+    EXPECT_EQ(form().lblChkPathMsg.Caption, "Es ist kein überwachter Ordner angegeben.");
 }
 
 TEST_F(Start, WrongDatesAreRepairedAndReportedOnce) {
