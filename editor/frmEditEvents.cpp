@@ -66,10 +66,6 @@ void settleDuration(FormModel& form, const EditorControl& stepped, bool up) {
         if (&stepped == &hours) SpinHours(minutes, hours, days, up);
         if (&stepped == &days) SpinDays(minutes, hours, days, up);
     }
-    // A finding goes as soon as the user has mended it. The disk is asked only when the job wants other things from it.
-    if (timerRunning_) return;
-    checkSchedule();
-    if (DemandsOnFolders(*this) != checkedDemands_) checkPaths();
 }
 
 bool isDays(const FormModel& form, const EditorControl& control) {
@@ -99,6 +95,10 @@ void frmEdit::changed(EditorControl& control) {
     if (&control == &chkEditPaths) {
         ini_.WriteProgramSetting("EditWin", "chkEditPaths", chkEditPaths.isSet() ? "1" : "0");
     }
+    // A finding goes as soon as the user has mended it. The disk is asked only when the job wants other things from it.
+    if (timerRunning_) return;
+    checkSchedule();
+    if (DemandsOnFolders(*this) != checkedDemands_) checkPaths();
 }
 
 void frmEdit::onTextTyped(EditorControl& control, std::string_view text) {

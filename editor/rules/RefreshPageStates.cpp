@@ -123,6 +123,7 @@ constexpr std::array smallPages{
 // Everything that a choice can change, a row for each page or topic. The action's own rule is not among them: it would
 // choose anew what the job has chosen.
 constexpr Rule choices[] = {
+    ApplyJobName,
     ReflectOnlyCompare, ApplyEditPaths, ApplyDestinationPath, RefreshPathTexts,
     UpdateIntervalUnitLabels, ApplyIntervall, ApplyMonitorPath,
     ApplyInactive, ApplyFreeSpace, ApplyExecDo,
