@@ -66,18 +66,19 @@ IniText::IniText(CodePage page, FileContent content) : page_(page), content_(std
 /// never taken apart.
 void IniText::indexSections() {
     const std::string_view text = bytes();
-    const auto startsLine = [&](std::size_t place) {
+    const auto aheadOfBlanks = [&](std::size_t place) {
         while (place > begin_ && isBlank(text[place - 1]))
             --place;
-        return place == begin_ || text[place - 1] == '\n';
+        return place;
     };
     for (std::size_t bracket = text.find('[', begin_); bracket != none;) {
-        if (!startsLine(bracket)) {
+        const std::size_t begin = aheadOfBlanks(bracket);
+        if (begin != begin_ && text[begin - 1] != '\n') {
             bracket = text.find('[', bracket + 1);
             continue;
         }
         const std::size_t end = lineEndFrom(bracket);
-        if (!sections_.empty()) sections_.back().bodyEnd = offset(bracket);
+        if (!sections_.empty()) sections_.back().bodyEnd = offset(begin);
         std::string_view name = text.substr(bracket + 1, end - bracket - 1);
         name = trimLine(name.substr(0, name.find_first_of("]\n")));
         const std::size_t nameBegin = name.empty() ? bracket : static_cast<std::size_t>(name.data() - text.data());

@@ -35,6 +35,8 @@ TEST_F(IniRead, sectionNameEndsAtFirstBracketOrAtTheLinesEnd) {
     EXPECT_EQ(valueIn("[S\nk=1"), "1");
     EXPECT_EQ(valueIn("[S]]\nk=1"), "1");
     EXPECT_EQ(valueIn("[x]\nv=[S]\nk=1"), "(none)") << "a bracket inside a value starts no section";
+    EXPECT_EQ(valueIn("[S]\nk=1\n  [T] x=2", "[T] x"), "(none)")
+        << "a header behind blanks is no key of the section ahead";
 }
 
 TEST_F(IniRead, firstSectionAndFirstKeyCount) {
