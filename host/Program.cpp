@@ -3,10 +3,12 @@
 #include <exception>
 #include <variant>
 
+#include "host/EditorSession.h"
 #include "host/ErrorLine.h"
 #include "host/IniVerbs.h"
 #include "host/Options.h"
 #include "host/ScriptRun.h"
+#include "host/Window.h"
 #include "platform/IniStore.h"
 
 namespace kestedit {
@@ -24,8 +26,9 @@ struct Run {
     }
     ExitCode operator()(const OpenWindow& command) const {
         if (const auto& job = command.editor.jobFile) static_cast<void>(IniStore().open(*job));
-        writeErrorLine(err, "this program was built without a window; \"kestedit script\" edits jobs without one");
-        return ExitCode::noWindow;
+        const auto window = openWindow();
+        EditorSession(command.editor, window->prompts()).show(window->driver());
+        return ExitCode::done;
     }
     ExitCode operator()(const RunScript& command) const { return runScript(command, out, err); }
     ExitCode operator()(const ReadIniKey& command) const {
@@ -47,6 +50,9 @@ ExitCode runProgram(int argc, const char* const* argv, std::ostream& out, std::o
     } catch (const UsageError& fault) {
         writeErrorLine(err, fault.what());
         return ExitCode::wrongUsage;
+    } catch (const NoWindow& reason) {
+        writeErrorLine(err, reason.what());
+        code = ExitCode::noWindow;
     } catch (const std::exception& failure) {
         writeErrorLine(err, failure.what());
     }
