@@ -29,7 +29,10 @@ ScriptDriver::ScriptDriver(std::vector<ScriptStep> steps, ScriptPrompts& prompts
 }
 
 void ScriptDriver::queueFirstAnswers() {
-    while (!atEnd() && steps_[next_].event->role == ScriptEvent::Role::answer)
+    const auto isAnswer = [](const ScriptStep& step) {
+        return step.event && step.event->role == ScriptEvent::Role::answer;
+    };
+    while (!atEnd() && isAnswer(steps_[next_]))
         execute(steps_[next_++]);
 }
 
@@ -52,6 +55,7 @@ void ScriptDriver::runNewFolder(dlgNewFolder& dialog) {
 }
 
 void ScriptDriver::execute(const ScriptStep& step) {
+    if (!step.event) throw ScriptFailure(step.line, step.fault);
     try {
         requireOpen(step.event->role);
         step.event->run(*this, step.arguments);

@@ -4,7 +4,6 @@
 
 #include "host/PropertyPrinter.h"
 #include "host/ScriptDriver.h"
-#include "host/ScriptFailure.h"
 #include "host/ScriptText.h"
 
 namespace kestedit {
@@ -164,6 +163,16 @@ Arguments readArguments(const ScriptEvent& event, std::span<const std::string> w
     return given;
 }
 
+ScriptStep compileLine(const ScriptLine& line) {
+    if (!line.fault.empty()) return {line.number, nullptr, {}, line.fault};
+    try {
+        const ScriptEvent& event = eventOf(line.words.front());
+        return {line.number, &event, readArguments(event, std::span(line.words).subspan(1)), {}};
+    } catch (const std::invalid_argument& fault) {
+        return {line.number, nullptr, {}, fault.what()};
+    }
+}
+
 }  // namespace
 
 std::span<const ScriptEvent> scriptEvents() {
@@ -180,14 +189,8 @@ std::string usage(const ScriptEvent& event) {
 
 std::vector<ScriptStep> compileScript(std::span<const ScriptLine> lines) {
     std::vector<ScriptStep> steps;
-    for (const ScriptLine& line : lines) {
-        try {
-            const ScriptEvent& event = eventOf(line.words.front());
-            steps.push_back({line.number, &event, readArguments(event, std::span(line.words).subspan(1))});
-        } catch (const std::invalid_argument& fault) {
-            throw ScriptFailure(line.number, fault.what());
-        }
-    }
+    for (const ScriptLine& line : lines)
+        steps.push_back(compileLine(line));
     return steps;
 }
 

@@ -38,11 +38,12 @@ struct ScriptEvent {
 /// One line, ready to run.
 struct ScriptStep {
     int line;
-    const ScriptEvent* event;
+    const ScriptEvent* event;  ///< null when the line has a fault
     Arguments arguments;
+    std::string fault;  ///< why it fails when its turn comes; empty otherwise
 };
 
-/// Throws ScriptFailure for the first line with an unknown verb, or with arguments that its verb does not take.
+/// A line with an unknown verb, or with arguments that its verb does not take, becomes a step that fails.
 [[nodiscard]] std::vector<ScriptStep> compileScript(std::span<const ScriptLine> lines);
 
 }  // namespace kestedit

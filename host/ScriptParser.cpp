@@ -6,7 +6,6 @@
 #include <stdexcept>
 #include <utility>
 
-#include "host/ScriptFailure.h"
 #include "platform/Text.h"
 
 namespace kestedit {
@@ -88,9 +87,9 @@ std::vector<ScriptLine> parseScript(std::string_view text) {
     for (int number = 1; !text.empty(); ++number) {
         const std::string_view line = takeLine(text);
         try {
-            if (auto words = splitWords(line); !words.empty()) lines.push_back({number, std::move(words)});
+            if (auto words = splitWords(line); !words.empty()) lines.push_back({number, std::move(words), {}});
         } catch (const std::invalid_argument& fault) {
-            throw ScriptFailure(number, fault.what());
+            lines.push_back({number, {}, fault.what()});
         }
     }
     return lines;

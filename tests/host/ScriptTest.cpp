@@ -84,10 +84,10 @@ TEST_F(ScriptTest, EndsAtTheFirstLineThatFails) {
     EXPECT_EQ(folder.names(), std::vector<std::string>{"home"});
 }
 
-TEST_F(ScriptTest, ABadLineIsFoundBeforeTheFormOpens) {
-    const auto result = script("new", "type dxName Night\nclick cmdSave\nbogus\n");
+TEST_F(ScriptTest, ABadLineFailsWhenItsTurnComes) {
+    const auto result = script("new", "type dxName Night\nprint dxName.EditValue\nbogus\nclick cmdSave\n");
     EXPECT_EQ(result.code, 1);
-    EXPECT_EQ(result.out, "event none\n");
+    EXPECT_EQ(result.out, "dxName.EditValue = \"Night\"\nevent none\n");
     EXPECT_EQ(result.err, "kestedit: home/script:3: unknown event \"bogus\"\n");
     EXPECT_FALSE(std::filesystem::exists(folder.path() / "Night.job"));
 }
