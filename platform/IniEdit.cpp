@@ -134,6 +134,10 @@ std::vector<IniEdit::NewLine> IniEdit::newLinesInOrder() const {
     return ordered;
 }
 
+bool IniEdit::changesLastLine(std::span<const Replacement> ordered) const {
+    return !ordered.empty() && base_->bytes().find('\n', ordered.back().place.end) == std::string_view::npos;
+}
+
 std::vector<std::string_view> IniEdit::pieces() const {
     const std::string_view base = base_->bytes();
     const std::vector<Replacement> replacements = replacementsInOrder();
@@ -153,7 +157,9 @@ std::vector<std::string_view> IniEdit::pieces() const {
             copied = replacement->place.end;
         }
     };
+    // A last line that is changed or followed gets an end; one that nobody touches stays as it is.
     bool lineIsOpen = !base_->endsWithLineEnd();
+    const bool lastLineChanges = lineIsOpen && changesLastLine(replacements);
     for (const NewLine& line : newLines) {
         replaceUpTo(line.position);
         copyTo(line.position);
@@ -165,6 +171,7 @@ std::vector<std::string_view> IniEdit::pieces() const {
     }
     replaceUpTo(base.size());
     copyTo(base.size());
+    if (lineIsOpen && lastLineChanges) pieces.push_back(lineEnd_);
     return pieces;
 }
 

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <memory>
 #include <stdexcept>
+#include <span>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -60,6 +61,7 @@ class IniEdit {
     Stretch rememberValue(std::string_view value);
     [[nodiscard]] std::string_view text(Stretch stretch) const;
     [[nodiscard]] std::vector<Replacement> replacementsInOrder() const;
+    [[nodiscard]] bool changesLastLine(std::span<const Replacement> ordered) const;
     [[nodiscard]] std::vector<NewLine> newLinesInOrder() const;
 
     std::shared_ptr<const IniText> base_;

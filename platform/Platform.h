@@ -10,8 +10,8 @@
 
 namespace kestedit {
 
-/// References only: whoever builds the bundle owns what stands behind it, and must keep it alive for as long as an editor
-/// that uses it is open.
+/// References only: whoever builds the bundle owns what stands behind it, and must keep it alive for as long as an
+/// editor that uses it is open.
 struct Platform {
     IniStore& ini;
     FileSystem& files;

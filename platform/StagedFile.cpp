@@ -89,7 +89,7 @@ StagedFile::StagedFile(fs::path target, std::span<const std::string_view> pieces
         if (permissions == Permissions::keep) requireWritable(*existing, place_);
         mode = (existing->st_mode & 07777U) | ownerMayWrite;
     }
-    temporary_ = writeTemporaryFile(folderOf(place_), pieces, mode, existing ? &*existing : nullptr);
+    temporary_ = writeTemporaryFile(place_, pieces, mode, existing ? &*existing : nullptr);
 }
 
 StagedFile::StagedFile(StagedFile&& other) noexcept

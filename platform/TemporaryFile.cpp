@@ -34,19 +34,19 @@ int createFile(const std::filesystem::path& folder, mode_t mode, std::filesystem
 }
 
 /// Gives the still empty file the owner, group and permissions of the file whose place it will take.
-void takeAfter(int file, const struct stat& model, mode_t mode, const std::filesystem::path& path) {
+void takeAfter(int file, const struct stat& model, mode_t mode, const std::filesystem::path& target) {
     struct stat own {};
-    if (::fstat(file, &own) != 0) throw systemFailure("look at", path);
+    if (::fstat(file, &own) != 0) throw systemFailure("look at", target);
     bool owned = own.st_uid == model.st_uid && own.st_gid == model.st_gid;
     if (!owned) {
         // Only root may give files away; a member of the group may still keep the group.
         owned = ::fchown(file, model.st_uid, model.st_gid) == 0 || ::fchown(file, own.st_uid, model.st_gid) == 0;
         own.st_mode = 0;  // a change of owner may have cleared bits
     }
-    if ((own.st_mode & 07777U) != mode && ::fchmod(file, mode) != 0) throw systemFailure("set permissions of", path);
+    if ((own.st_mode & 07777U) != mode && ::fchmod(file, mode) != 0) throw systemFailure("set permissions of", target);
 }
 
-void writePieces(int file, std::span<const std::string_view> pieces, const std::filesystem::path& path) {
+void writePieces(int file, std::span<const std::string_view> pieces, const std::filesystem::path& target) {
     constexpr std::size_t batch = 256;
     std::array<iovec, batch> vectors{};
     std::size_t skip = 0;  // bytes of the first piece that are written already
@@ -57,7 +57,7 @@ void writePieces(int file, std::span<const std::string_view> pieces, const std::
             vectors[i] = {const_cast<char*>(piece.data()), piece.size()};
         }
         const ssize_t result = uninterrupted([&] { return ::writev(file, vectors.data(), static_cast<int>(count)); });
-        if (result < 0) throw systemFailure("write", path);
+        if (result < 0) throw systemFailure("write", target);
         std::size_t written = static_cast<std::size_t>(result) + skip;
         while (!pieces.empty() && written >= pieces.front().size()) {
             written -= pieces.front().size();
@@ -69,16 +69,16 @@ void writePieces(int file, std::span<const std::string_view> pieces, const std::
 
 }  // namespace
 
-std::filesystem::path writeTemporaryFile(const std::filesystem::path& folder, std::span<const std::string_view> pieces,
+std::filesystem::path writeTemporaryFile(const std::filesystem::path& target, std::span<const std::string_view> pieces,
                                          mode_t mode, const struct stat* model) {
     std::filesystem::path path;
-    FileDescriptor file(createFile(folder, mode, path));
-    if (!file.isOpen()) throw systemFailure("create", path);
+    FileDescriptor file(createFile(target.parent_path(), mode, path));
+    if (!file.isOpen()) throw systemFailure("create", target);
     try {
-        if (model != nullptr) takeAfter(file.number(), *model, mode, path);
-        writePieces(file.number(), pieces, path);
-        if (uninterrupted([&] { return ::fsync(file.number()); }) != 0) throw systemFailure("sync", path);
-        if (!file.close()) throw systemFailure("close", path);
+        if (model != nullptr) takeAfter(file.number(), *model, mode, target);
+        writePieces(file.number(), pieces, target);
+        if (uninterrupted([&] { return ::fsync(file.number()); }) != 0) throw systemFailure("sync", target);
+        if (!file.close()) throw systemFailure("close", target);
     } catch (...) {
         ::unlink(path.c_str());
         throw;

@@ -8,10 +8,11 @@
 
 namespace kestedit {
 
-/// Creates a file of a name of its own in `folder`, with the permissions `mode` and, when `model` is given, the owner
-/// and group of that file where the process may set them. Writes `pieces` one behind the other and syncs the file.
-/// Returns its path. Throws std::system_error; no file is left then.
-[[nodiscard]] std::filesystem::path writeTemporaryFile(const std::filesystem::path& folder,
+/// Creates a file of a name of its own beside `target`, with the permissions `mode` and, when `model` is given, the
+/// owner and group of that file where the process may set them. Writes `pieces` one behind the other and syncs the
+/// file. Returns its path. Throws std::system_error, which names the target, the one of both that users know; no file
+/// is left then.
+[[nodiscard]] std::filesystem::path writeTemporaryFile(const std::filesystem::path& target,
                                                        std::span<const std::string_view> pieces, mode_t mode,
                                                        const struct stat* model);
 

@@ -12,8 +12,8 @@ struct Character {
     std::string_view bytes;
 };
 
-/// Removes and returns the first character of `rest`, which must not be empty. A byte that starts no valid sequence comes
-/// back alone, as U+FFFD.
+/// Removes and returns the first character of `rest`, which must not be empty. A byte that starts no valid sequence
+/// comes back alone, as U+FFFD.
 [[nodiscard]] Character takeCharacter(std::string_view& rest);
 
 /// `codePoint` as UTF-8 behind `text`.

@@ -33,7 +33,7 @@ TEST_F(IniWrite, anExistingKeyKeepsItsPlaceAndSpelling) {
               "; c\r\n[s] x\r\n a\r\nKey = new\r\n;Key=0\r\nz=1");
     EXPECT_EQ(written("[S]\nk=1\nk=2\n[S]\nk=3\n", "k", "new"), "[S]\nk=new\nk=2\n[S]\nk=3\n");
     EXPECT_EQ(written("[S]\nk=\n", "k", "new"), "[S]\nk=new\n");
-    EXPECT_EQ(written("[S]\nk=\"old\"", "k", ""), "[S]\nk=");
+    EXPECT_EQ(written("[S]\nk=\"old\"", "k", ""), "[S]\nk=\n");
     EXPECT_EQ(written("[S]\nk=1\r\r\n", "k", "2"), "[S]\nk=2\r\n");
     EXPECT_EQ(written("[S]\nk=same\n", "k", "same"), "[S]\nk=same\n");
 }
