@@ -1,5 +1,7 @@
 #include "editor/frmEdit.h"
 
+#include <algorithm>
+#include <cctype>
 #include <charconv>
 #include <string>
 
@@ -24,6 +26,11 @@ constexpr std::size_t editCaption = 1;
 constexpr std::string_view windowSection = "EditWin";
 constexpr std::string_view globalSection = "Global";
 
+bool isSameWord(std::string_view text, std::string_view lowerCaseWord) {
+    return std::ranges::equal(
+        text, lowerCaseWord, [](unsigned char letter, unsigned char wanted) { return std::tolower(letter) == wanted; });
+}
+
 // Nothing for a text that holds more or less than a number.
 std::optional<std::int64_t> wholeNumber(const std::string& text) {
     const char* const last = text.data() + text.size();
@@ -32,8 +39,11 @@ std::optional<std::int64_t> wholeNumber(const std::string& text) {
     return error == std::errc{} && end == last ? std::optional{number} : std::nullopt;
 }
 
-// A flag of the settings file: any whole number but 0 is on. What is no number keeps the default.
+// A flag of the settings file: "True", "False" in any case, or a whole number, of which all but 0 are on. Any other
+// text keeps the default.
 bool flagOr(const std::string& text, bool fallback) {
+    if (isSameWord(text, "true")) return true;
+    if (isSameWord(text, "false")) return false;
     const auto number = wholeNumber(text);
     return number ? *number != 0 : fallback;
 }
@@ -65,6 +75,7 @@ void frmEdit::Load() {
     TreeBusy = true;
     BuildNavigationTree(*this);
     TreeBusy = false;
+    TitleDestinationNode(*this);
     if (const int view = viewNumber(*this)) RefreshPageStates(*this, "all", view, 0);
     Ready = true;
     if (values_.Mode == "New") applyNewJob();

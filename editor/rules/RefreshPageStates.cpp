@@ -124,7 +124,7 @@ constexpr std::array smallPages{
 // choose anew what the job has chosen.
 constexpr Rule choices[] = {
     ApplyJobName,
-    ReflectOnlyCompare, ApplyEditPaths, ApplyDestinationPath, RefreshPathTexts,
+    ApplyJobName, ReflectOnlyCompare, ApplyEditPaths, ApplyDestinationPath, RefreshPathTexts,
     UpdateIntervalUnitLabels, ApplyIntervall, ApplyMonitorPath,
     ApplyInactive, ApplyFreeSpace, ApplyExecDo,
     ApplySubFolder, UpdateFolderNameCaption, ApplyFileMatch, UpdateFileNameCaption,

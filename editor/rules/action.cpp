@@ -6,7 +6,6 @@
 #include <string>
 
 #include "editor/NodeImages.h"
-#include "editor/modCompNodes.h"
 #include "editor/rules/compression.h"
 #include "editor/rules/dateAge.h"
 #include "editor/rules/existing.h"
@@ -52,13 +51,6 @@ void markPagesByAction(FormModel& form, Action action) {
     }
 }
 
-void setDestinationTitle(FormModel& form, const std::string& title) {
-    if (form.TreeBusy) return;
-    if (!hasView(form, {"4", "15"})) return;
-    const std::size_t position = form.ViewLevel == "4" ? 12 : 10;
-    if (position < form.Navigation.Nodes.size()) form.Navigation.Nodes[position].Title = title;
-}
-
 // Path page and linked options. Synchronising renames source and destination, keeps the folder structure in any case
 // and has its own choice for existing files.
 void linkOptionsToAction(FormModel& form, Action action) {
@@ -74,7 +66,7 @@ void linkOptionsToAction(FormModel& form, Action action) {
     form.lblSource[0].Caption = texts[synchronise ? 68 : 70];
     form.lblDest[0].Caption = texts[synchronise ? 69 : 71];
     form.chkOnlyCompare.Caption = texts[synchronise ? 76 : 77];
-    setDestinationTitle(form, texts[synchronise ? 74 : 75]);
+    TitleDestinationNode(form);
     if (synchronise) form.chkFStruct.State = 1;
     form.chkFStruct.TabStop = !synchronise;
     for (EditorControl& member : form.optExist)
@@ -107,6 +99,14 @@ std::string_view ActionImage(int action, bool preview) {
     return preview ? images.preview : images.plain;
 }
 
+void TitleDestinationNode(FormModel& form) {
+    if (form.TreeBusy || !hasView(form, {"4", "15"})) return;
+    const std::size_t position = form.ViewLevel == "4" ? 12 : 10;
+    if (position >= form.Navigation.Nodes.size()) return;
+    const bool synchronise = selectedAction(form) == Action::synchronise;
+    form.Navigation.Nodes[position].Title = form.TextCatalogue[synchronise ? 74 : 75];
+}
+
 void ApplyAction(FormModel& form) {
     const auto selected = form.optAction.selected();
     if (!selected) return;
@@ -126,11 +126,7 @@ void ApplyAction(FormModel& form) {
 
 void ApplyPreview(FormModel& form) {
     if (form.SelectedAction >= actionCount) return;
-    const auto nodes = viewNodes(form.ViewLevel);
-    const auto focused = static_cast<std::size_t>(form.Navigation.FocusedNode);
-    if (focused < nodes.size() && form.Ready && !form.TreeBusy) {
-        form.Navigation.Nodes.at(focused).Image = ActionImage(form.SelectedAction, form.chkPreview.isSet());
-    }
+    SetNodeImage(form, Page::mode, ActionImage(form.SelectedAction, form.chkPreview.isSet()));
     ShowActionPicture(form, form.SelectedAction);
 }
 

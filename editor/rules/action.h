@@ -18,12 +18,15 @@ enum class Action : int { copy, move, remove, compress, extract, synchronise };
 
 /// Change rule of optAction.
 void ApplyAction(FormModel& form);
-/// Change rule of chkPreview. Marks the focused node: the user is on the action page when the box changes.
+/// Change rule of chkPreview: image of the action page's node, which has the focus when a user changes the box.
 void ApplyPreview(FormModel& form);
 /// Change rule of chkOnlyCompare; acts only for synchronise. Selects what happens to existing files anew.
 void ApplyOnlyCompare(FormModel& form);
 /// The same without a new selection: what a loaded job says about existing files stands.
 void ReflectOnlyCompare(FormModel& form);
+
+/// Title of the destination page's node: synchronising gives it another one.
+void TitleDestinationNode(FormModel& form);
 
 /// Image of the compression page, which applies to compress and extract only, and the rule that sets it.
 [[nodiscard]] std::string_view CompressionMark(const FormModel& form);
