@@ -6,6 +6,7 @@
 #include <system_error>
 
 #include "editor/Findings.h"
+#include "editor/LineBreaks.h"
 #include "editor/frmEdit.h"
 
 namespace kestedit {
@@ -76,7 +77,7 @@ EditorControl* dlgNewFolder::pathField() const {
 void dlgNewFolder::onTextTyped(EditorControl& control, std::string_view text) {
     if (&control != &dxTextEdit1) throw EventRefused(control.Name() + " takes no text");
     if (!IsStorablePath(platform_.ini.codePage(), text)) throw EventRefused(UnstorableText(texts_, text));
-    dxTextEdit1.EditValue = std::string{text};
+    dxTextEdit1.EditValue = singleLine(text);
     cmdCreate.Enabled = characterCount(text) >= shortestName;
 }
 

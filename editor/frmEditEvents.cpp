@@ -4,6 +4,7 @@
 
 #include "editor/ChangeRules.h"
 #include "editor/Findings.h"
+#include "editor/LineBreaks.h"
 #include "editor/NumberRanges.h"
 #include "editor/TextFilters.h"
 #include "editor/frmEdit.h"
@@ -17,33 +18,6 @@ namespace {
 constexpr int keyUp = 38;
 constexpr int keyDown = 40;
 constexpr int rightButton = 2;
-
-// A field of one line shows a pasted line break as a blank, and the job file could not hold it either.
-std::string singleLine(std::string_view text) {
-    std::string line;
-    line.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool windowsBreak = text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n';
-        if (windowsBreak) continue;
-        line += text[i] == '\r' || text[i] == '\n' || text[i] == '\0' ? ' ' : text[i];
-    }
-    return line;
-}
-
-// Every kind of line break as "\r\n", which is what the comment's encoding in the job file knows.
-std::string windowsLines(std::string_view text) {
-    std::string lines;
-    lines.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '\r' || text[i] == '\n') {
-            if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') ++i;
-            lines += "\r\n";
-        } else {
-            lines += text[i] == '\0' ? ' ' : text[i];
-        }
-    }
-    return lines;
-}
 
 /// The three editors of one duration.
 struct Duration {
