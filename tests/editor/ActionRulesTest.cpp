@@ -98,9 +98,15 @@ TEST_F(ActionRules, PageMarksFollowTheActionAndSomeStay) {
             if (!offers(step.action)) continue;
             choose("optAction", step.action);
             const auto last = form().Navigation.Nodes.size() - 1;
-            if (view == 23) EXPECT_EQ(image(8), "");
-            if (view == 4 || view == 15) EXPECT_EQ(image(last - 1), step.compression);
-            if (view != 23) EXPECT_EQ(image(last), step.destination);
+            if (view == 23) {
+                EXPECT_EQ(image(8), "");
+            }
+            if (view == 4 || view == 15) {
+                EXPECT_EQ(image(last - 1), step.compression);
+            }
+            if (view != 23) {
+                EXPECT_EQ(image(last), step.destination);
+            }
         }
     }
 }

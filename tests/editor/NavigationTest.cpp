@@ -149,7 +149,7 @@ TEST_F(Navigation, EveryControlHasANameOfItsOwnAndAPage) {
         const bool onForm = !control->Container && control->Kind != ControlKind::frame;
         EXPECT_EQ(nodeOfControl(form(), *control).has_value(), !onForm) << control->Name();
     }
-    for (const auto frame : allFrames)
+    for (const auto& frame : allFrames)
         EXPECT_TRUE(nodeOfControl(form(), at(frame))) << frame;
 }
 

@@ -71,12 +71,16 @@ TEST_F(Start, CaptionTellsTheMode) {
 TEST_F(Start, NewJobDefaults) {
     create();
     for (const EditorControl* control : form().controls()) {
-        if (control->Kind == ControlKind::option) EXPECT_EQ(control->State, control->Member == 0) << control->Name();
+        if (control->Kind == ControlKind::option) {
+            EXPECT_EQ(control->State, control->Member == 0) << control->Name();
+        }
         if (control->Kind == ControlKind::check) {
             const std::set<std::string> on{"chkEditPaths", "chkZipIntStruct", "chkDestKeepZStruct"};
             EXPECT_EQ(control->State, on.contains(control->Name())) << control->Name();
         }
-        if (control->Kind == ControlKind::date) EXPECT_EQ(control->date(), test::now.date) << control->Name();
+        if (control->Kind == ControlKind::date) {
+            EXPECT_EQ(control->date(), test::now.date) << control->Name();
+        }
     }
     EXPECT_EQ(form().dxDateTime.time(), test::now.time);
     EXPECT_EQ(form().dxIntWeekDay.text(), "Montag");
