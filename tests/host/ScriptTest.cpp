@@ -29,6 +29,26 @@ TEST_F(ScriptTest, TheDocumentedExamplePrintsWhatItSays) {
     EXPECT_NE(document.find(indented(printed)), std::string::npos);
 }
 
+TEST_F(ScriptTest, SamplesMakeTheJobsThatTheyDescribe) {
+    const auto sample = [](const std::string& name) { return " '" KESTEDIT_DOCS "/../samples/" + name + ".script'"; };
+    for (const std::string name : {"create", "compress", "sync", "monitor"}) {
+        const auto result = kestedit("script --job-dir . new" + sample(name));
+        EXPECT_EQ(result.code, 0) << result.err;
+        EXPECT_TRUE(result.out.ends_with("event SearchJobs\n")) << name << "\n" << result.out;
+    }
+    const auto renamed = kestedit("script --view 9 edit Notes.job" + sample("rename"));
+    EXPECT_EQ(renamed.code, 0) << renamed.err;
+    const auto holds = [this](const std::string& job, std::initializer_list<const char*> lines) {
+        const std::string bytes = test::bytesOf(folder.path() / (job + ".job"));
+        for (const std::string line : lines)
+            EXPECT_NE(bytes.find("\r\n" + line + "\r\n"), std::string::npos) << job << " " << line;
+    };
+    holds("Notes, half-hourly", {"Action=3", "Ext=txt, md", "Interval=30"});
+    holds("Documents, packed", {"Action=3", "ZipAll=1", "ZipPwd=correct horse", "Interval=1440"});
+    holds("Laptop and server", {"Action=5", "SyncStart=1", "SyncExist=2", "IntervalType=1", "IntervalTime=18:30:00"});
+    holds("Incoming scans", {"Action=0", "IntervalType=2", "ExecDo=1", "Execution=1", "ExecMaxSec=300"});
+}
+
 TEST_F(ScriptTest, PrintsEveryFormOfValue) {
     const auto result =
         script("new",
