@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Builds kestedit and runs it; on a fresh Debian it installs what that takes first.
-#   scripts/run.sh                  creates a job from a sample script and shows the file
+#   scripts/run.sh                  creates jobs from the sample scripts, shows one file, and opens it in the window
+#                                   where there is a display
 #   scripts/run.sh ARGUMENT...      runs kestedit with these arguments
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -20,7 +21,11 @@ jobs=$root/build/sample
 rm -rf "$jobs"
 mkdir -p "$jobs"
 "$kestedit" script --job-dir "$jobs" new "$root/samples/create.script"
-for job in "$jobs"/*.job; do
-    printf '\nThe job file %s:\n\n' "$job"
-    iconv -f CP1252 -t UTF-8 "$job" | tr -d '\r'
-done
+printf '\nThe job file %s:\n\n' "$jobs/Notes.job"
+iconv -f CP1252 -t UTF-8 "$jobs/Notes.job" | tr -d '\r'
+
+if [[ -n ${DISPLAY:-}${WAYLAND_DISPLAY:-} ]]; then
+    exec "$kestedit" edit "$jobs/Notes.job"
+fi
+printf '\nThere is no display here. In a graphical session (DISPLAY or WAYLAND_DISPLAY is set) the same command opens the\n'
+printf 'job in the window; so does: %s edit "%s"\n' "$kestedit" "$jobs/Notes.job"
