@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that a job needs and this machine lacks; does nothing when all are there.
-#   scripts/setup.sh [build|bench|lint|package]...     (default: build)
+#   scripts/setup.sh [build|bench|lint|fuzz|package]...     (default: build)
 set -euo pipefail
 
 build=(
@@ -17,6 +17,14 @@ build=(
 )
 bench=(
     libbenchmark-dev
+    libglib2.0-dev
+    libsimpleini-dev
+    libinih-dev
+    libboost-dev
+)
+fuzz=(
+    clang
+    libclang-rt-14-dev
 )
 lint=(
     git
@@ -38,7 +46,7 @@ fail() {
 
 missing=()
 for group in "${@:-build}"; do
-    [[ $group =~ ^(build|bench|lint|package)$ ]] || fail "unknown group '$group': build, bench, lint or package"
+    [[ $group =~ ^(build|bench|lint|fuzz|package)$ ]] || fail "unknown group '$group': build, bench, lint, fuzz or package"
     declare -n packages=$group
     for package in "${packages[@]}"; do
         # A package that was removed but not purged is still known, with another status.
