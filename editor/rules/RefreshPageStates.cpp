@@ -83,7 +83,8 @@ constexpr std::array completePages{
     PageRule{12, ShowDestinationFrames},
 };
 
-// Positions 3 to 6 show other pages here than their rules belong to, deliberately; the rules do no harm there. Test: RefreshPageStates.View15RunsRulesByPosition.
+// Positions 3 to 6 show other pages here than their rules belong to, deliberately; the rules do no harm there.
+// Test: RefreshPageStates.View15RunsRulesByPosition.
 constexpr std::array pagesWithoutSchedule{
     PageRule{ 0, ApplyJobName},
     PageRule{ 0, ShowCompressionFrames},
