@@ -8,8 +8,8 @@
 #include <string>
 #include <string_view>
 
+#include "editor/FolderDemands.h"
 #include "editor/FormModel.h"
-#include "editor/rules/paths.h"
 #include "persistence/ComponentValues.h"
 #include "persistence/JobStore.h"
 #include "persistence/modIniHandler.h"

@@ -20,6 +20,7 @@ set(public_headers
   # for drivers of the form
   component/FrontEnd.h
   editor/EditorControl.h
+  editor/FolderDemands.h
   editor/FormModel.h
   editor/PatternHint.h
   editor/WindowTexts.h

@@ -3,6 +3,7 @@
 
 #include <optional>
 
+#include "editor/FolderDemands.h"
 #include "editor/FormModel.h"
 #include "platform/FileSystem.h"
 
@@ -18,14 +19,7 @@ void ApplyEditPaths(FormModel& form);
 /// Tool tips of the path fields: a path is often longer than its field.
 void RefreshPathTexts(FormModel& form);
 
-/// What a job's present choices want from its folders.
-struct FolderDemands {
-    bool destination = false;     ///< it writes to the destination
-    bool monitored = false;       ///< it starts on changes of a folder of its own
-    bool writableSource = false;  ///< it deletes files at the source, or writes to it
-
-    bool operator==(const FolderDemands&) const = default;
-};
+/// What the job's present choices want from its folders.
 [[nodiscard]] FolderDemands DemandsOnFolders(const FormModel& form);
 
 /// What the path check found, in the order in which findings are looked for; the first one is shown.
