@@ -10,7 +10,7 @@ target_link_libraries(kestEditDesktop PUBLIC kestEdit PRIVATE Qt6::Widgets Qt6::
 target_link_options(kestEditDesktop PRIVATE -Wl,--no-undefined)
 
 install(TARGETS kestEditDesktop EXPORT desktop
-  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT libkestedit-desktop1 NAMELINK_COMPONENT libkestedit-dev)
+  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT libkesteditdesktop1 NAMELINK_COMPONENT libkestedit-dev)
 install(EXPORT desktop NAMESPACE kestEdit:: FILE kestEditDesktop.cmake
   DESTINATION ${kestEdit_cmake_dir} COMPONENT libkestedit-dev)
 

@@ -32,7 +32,7 @@ if command -v ccache >/dev/null; then export CMAKE_CXX_COMPILER_LAUNCHER=ccache;
 english=$(pkg-config --variable=langdir kestEdit)/english.lng
 
 step "everything is in its place"
-for file in bin/kestedit share/man/man1/kestedit.1 share/bash-completion/completions/kestedit \
+for file in bin/kestedit share/man/man1/kestedit.1.gz share/bash-completion/completions/kestedit \
     share/icons/hicolor/scalable/apps/kestedit.svg share/mime/packages/kestedit.xml \
     share/kestedit/lang/english.lng share/kestedit/lang/german.lng include/kestEdit/kestEdit.h; do
     [[ -s $prefix/$file ]] || fail "$file is missing"
@@ -133,6 +133,16 @@ else
     message=$(cmake -S "$source_folder/examples/host-qt" -B "$work/host-qt" -G Ninja -DCMAKE_PREFIX_PATH="$prefix" 2>&1) &&
         fail "find_package finds a window that is not there"
     [[ $message == *"was built without its window"* ]] || fail "find_package does not say why: $message"
+fi
+
+step "the embedding guide does what it says"
+if [[ $desktop ]]; then
+    mkdir "$work/guide"
+    cp "$source_folder/examples/host-python/kestedit.py" "$work/guide"
+    CMAKE_PREFIX_PATH=$prefix "$source_folder/tests/install/run_document.sh" "$source_folder/docs/embedding.md" \
+        "$work/guide" >"$work/guide.log" 2>&1 || { cat "$work/guide.log" >&2 && fail "docs/embedding.md is wrong"; }
+else
+    echo "skipped: it shows the window"
 fi
 
 step "the completion offers every option of the program, and nothing else"
