@@ -30,34 +30,16 @@ constexpr std::array completeView{
     ViewNode{12, 48, &F::fraExisting},
 };
 
-constexpr std::array viewWithoutCompression{
-    ViewNode{ 0, 38, &F::fraComment},
-    ViewNode{ 1, 39, &F::fraMode},
-    ViewNode{ 2, 80, &F::fraPath},
-    ViewNode{ 3, 40, &F::fraMonitoring},
-    ViewNode{ 4, 60, &F::fraExecute},
-    ViewNode{ 5, 41, &F::fraFolders},
-    ViewNode{ 6, 42, &F::fraFiles},
-    ViewNode{ 7, 43, &F::fraExtensions},
-    ViewNode{ 8, 44, &F::fraFilesize},
-    ViewNode{ 9, 45, &F::fraDate},
-    ViewNode{10, 46, &F::fraAttributes},
-    ViewNode{12, 48, &F::fraExisting},
-};
-
-constexpr std::array viewWithoutSchedule{
-    ViewNode{ 0, 38, &F::fraComment},
-    ViewNode{ 1, 39, &F::fraMode},
-    ViewNode{ 2, 80, &F::fraPath},
-    ViewNode{ 5, 41, &F::fraFolders},
-    ViewNode{ 6, 42, &F::fraFiles},
-    ViewNode{ 7, 43, &F::fraExtensions},
-    ViewNode{ 8, 44, &F::fraFilesize},
-    ViewNode{ 9, 45, &F::fraDate},
-    ViewNode{10, 46, &F::fraAttributes},
-    ViewNode{11, 47, &F::fraCompression},
-    ViewNode{12, 48, &F::fraExisting},
-};
+// The complete view less the pages of these numbers.
+template <int... LeftOut>
+consteval auto completeViewWithout() {
+    std::array<ViewNode, completeView.size() - sizeof...(LeftOut)> nodes{};
+    std::ranges::copy_if(completeView, nodes.begin(),
+                         [](const ViewNode& node) { return ((node.page != LeftOut) && ...); });
+    return nodes;
+}
+constexpr auto viewWithoutCompression = completeViewWithout<11>();
+constexpr auto viewWithoutSchedule = completeViewWithout<3, 4>();
 
 // View 23 numbers its pages by itself, and deliberately shows the paths under the name's title and the comments last,
 // under a page number that nothing asks for. Test: Navigation.View23PairsNameWithPaths.

@@ -181,7 +181,7 @@ void ShowDestinationFrames(FormModel& form) {
     const Action action = selectedAction(form);
     form.fraZielverzeichnis.Visible = action != Action::remove && action != Action::extract;
     form.fraExistingUnzip.Visible = action == Action::extract && form.ViewLevel != "9";
-    form.lblNoOptionMsg[1].Visible = action == Action::remove;
+    form.lblNoOptionMsg[1].Visible = !form.fraZielverzeichnis.Visible && !form.fraExistingUnzip.Visible;
     if (form.lblNoOptionMsg[1].Visible) form.lblNoOptionMsg[1].Caption = noOptionText(form);
     ApplyExistingFilesPage(form);
 }
