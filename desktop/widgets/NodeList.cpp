@@ -161,15 +161,24 @@ void NodeList::showColours() {
     colouring_ = false;
 }
 
+// A style tints the images of a selected line with its colour, until hardly anything is left of them: these are their
+// own, of the family that stands out from that colour.
+QIcon NodeList::imageOf(std::string_view node) const {
+    const std::string name = "node-" + std::string{node};
+    QIcon image = icon(name, palette().color(QPalette::Base));
+    const QIcon selected = icon(name, palette().color(QPalette::Highlight));
+    image.addPixmap(selected.pixmap({imageSize, imageSize}, devicePixelRatioF()), QIcon::Selected);
+    return image;
+}
+
 void NodeList::showImages() {
     setColumnHidden(1, !shown_.ShowIcons);
-    const QColor background = palette().color(QPalette::Base);
     int row = 0;
     for (const NavigationNode& node : shown_.Nodes) {
         QTreeWidgetItem* const item = topLevelItem(row++);
         if (!item) return;
         const QString meaning = node.Image.empty() || !meaning_ ? QString() : meaning_(node.Image);
-        item->setIcon(1, node.Image.empty() ? QIcon() : icon("node-" + node.Image, background));
+        item->setIcon(1, node.Image.empty() ? QIcon() : imageOf(node.Image));
         item->setToolTip(1, meaning);
         item->setData(1, Qt::AccessibleTextRole, meaning);
         item->setData(0, Qt::AccessibleDescriptionRole, meaning);

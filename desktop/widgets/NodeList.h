@@ -38,6 +38,7 @@ class NodeList : public QTreeWidget {
   private:
     void showColours();
     void showImages();
+    [[nodiscard]] QIcon imageOf(std::string_view node) const;
     [[nodiscard]] int currentRow() const;
     [[nodiscard]] int widthFor(int title) const;
 
