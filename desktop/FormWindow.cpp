@@ -100,13 +100,31 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 
 void FormWindow::changeEvent(QEvent* event) {
     QDialog::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange && stack_) refresh();
+    // Queued: the widgets inside hear of the new colours after the window.
+    if (event->type() == QEvent::PaletteChange && stack_) {
+        QMetaObject::invokeMethod(this, &FormWindow::refresh, Qt::QueuedConnection);
+    }
 }
 
 void FormWindow::paintEvent(QPaintEvent* event) {
     QDialog::paintEvent(event);
     if (std::exchange(painted_, true)) return;
     QTimer::singleShot(0, this, [this] { hand([](frmEdit& form) { form.onTimer(); }); });
+}
+
+bool FormWindow::focusNextPrevChild(bool next) {
+    std::vector<QWidget*> stops = binder_.tabSequence();
+    std::erase_if(stops, [this](const QWidget* widget) {
+        const bool stop = widget->isVisible() && widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus);
+        return !stop && widget != focusWidget();
+    });
+    if (!next) std::ranges::reverse(stops);
+    if (stops.empty()) return false;
+    const auto present = std::ranges::find(stops, focusWidget());
+    const auto following =
+        present == stops.end() || std::next(present) == stops.end() ? stops.begin() : std::next(present);
+    (*following)->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
 }
 
 void FormWindow::tellFailure(const std::string& reason) {

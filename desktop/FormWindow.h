@@ -42,6 +42,8 @@ class FormWindow : public QDialog, private EventGate {
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    /// Tab follows the form's own sequence, whenever and wherever a page was made.
+    bool focusNextPrevChild(bool next) override;
 
   private:
     [[nodiscard]] const frmEdit& form() const override { return form_; }
@@ -53,7 +55,6 @@ class FormWindow : public QDialog, private EventGate {
     PageArea& page(const EditorControl& frame);
     PageArea* makePage(std::string_view frame);
     void adopt(const EditorControl& frame, QWidget& page);
-    void orderTabs();
     // memory
     void recall();
     void remember();

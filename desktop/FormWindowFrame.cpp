@@ -94,7 +94,6 @@ PageArea& FormWindow::page(const EditorControl& frame) {
     if (const auto found = pages_.find(frame.Base); found != pages_.end()) return *found->second;
     PageArea& area = *makePage(frame.Base);
     adopt(frame, *area.widget());
-    orderTabs();
     return area;
 }
 
@@ -130,14 +129,6 @@ void FormWindow::makeAllPages() {
         if (control->Kind == ControlKind::frame && !control->Container) page(*control);
     }
     refresh();
-}
-
-void FormWindow::orderTabs() {
-    QWidget* before = nullptr;
-    for (QWidget* widget : binder_.tabSequence()) {
-        if (before) setTabOrder(before, widget);
-        before = widget;
-    }
 }
 
 // ---- memory

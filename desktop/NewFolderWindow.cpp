@@ -57,6 +57,7 @@ NewFolderWindow::NewFolderWindow(dlgNewFolder& dialog, QWidget* parent)
     });
     connect(create_, &QPushButton::clicked, this, [this] { hand([](dlgNewFolder& d) { d.onCommand(d.cmdCreate); }); });
     connect(cancel_, &QPushButton::clicked, this, [this] { hand([](dlgNewFolder& d) { d.onCommand(d.cmdCancel); }); });
+    name_->setFocus();
     showColour();
     refresh();
 }

@@ -19,7 +19,8 @@ ButtonedEdit::ButtonedEdit(QWidget* parent) : QWidget(parent), line_(new QLineEd
     row->setSpacing(4);
     row->addWidget(line_, 1);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    setFocusPolicy(Qt::StrongFocus);
+    // Reached through its line: as a stop of its own it would lead back to it.
+    setFocusPolicy(Qt::ClickFocus);
     setFocusProxy(line_);
 }
 

@@ -137,10 +137,13 @@ void NodeList::mousePressEvent(QMouseEvent* event) {
 
 void NodeList::changeEvent(QEvent* event) {
     QTreeWidget::changeEvent(event);
-    if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::StyleChange) {
-        showColours();
-        showImages();
-    }
+    const bool look = event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange;
+    if (look && !colouring_) QMetaObject::invokeMethod(this, &NodeList::showLook, Qt::QueuedConnection);
+}
+
+void NodeList::showLook() {
+    showColours();
+    showImages();
 }
 
 void NodeList::resizeEvent(QResizeEvent* event) {
@@ -152,8 +155,8 @@ void NodeList::resizeEvent(QResizeEvent* event) {
 void NodeList::showColours() {
     if (colouring_) return;
     colouring_ = true;
-    QPalette colours = QApplication::palette(this);
-    if (!hasOrdinaryColours(shown_) || !isDark(colours.color(QPalette::Base))) {
+    QPalette colours;  // what it does not say stays the desktop's, and follows it
+    if (!hasOrdinaryColours(shown_) || !isDark(QApplication::palette(this).color(QPalette::Base))) {
         colours.setColor(QPalette::Base, colourOf(shown_.RowColour));
         colours.setColor(QPalette::Text, colourOf(shown_.RowTextColour));
     }

@@ -36,6 +36,7 @@ class NodeList : public QTreeWidget {
     void resizeEvent(QResizeEvent* event) override;
 
   private:
+    void showLook();
     void showColours();
     void showImages();
     [[nodiscard]] QIcon imageOf(std::string_view node) const;

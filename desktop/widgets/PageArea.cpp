@@ -11,8 +11,10 @@ namespace {
 
 constexpr int widestPage = 96;  // in average characters: longer lines read badly
 
+// A layout inside of another passes a change on by a request of its own, which waits for the next round.
 void layOutNow() {
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    for (int round = 0; round < 2; ++round)
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
 }
 
 }  // namespace
@@ -49,8 +51,16 @@ void PageArea::changeEvent(QEvent* event) {
     if (event->type() == QEvent::FontChange && widget()) limitWidth();
 }
 
+// Runs ahead of the area's own layout, which follows the limit.
+bool PageArea::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == widget() && event->type() == QEvent::LayoutRequest) limitWidth();
+    return QScrollArea::eventFilter(watched, event);
+}
+
+// What cannot break may be wider than a line that reads well.
 void PageArea::limitWidth() {
-    widget()->setMaximumWidth(fontMetrics().averageCharWidth() * widestPage);
+    const int width = std::max(fontMetrics().averageCharWidth() * widestPage, widget()->minimumSizeHint().width());
+    if (widget()->maximumWidth() != width) widget()->setMaximumWidth(width);
 }
 
 }  // namespace kestedit

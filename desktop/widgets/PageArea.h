@@ -12,7 +12,7 @@ class PageArea : public QScrollArea {
     /// Takes `page` over.
     explicit PageArea(QWidget* page, QWidget* parent = nullptr);
 
-    [[nodiscard]] QSize minimumSizeHint() const override { return {200, 120}; }
+    [[nodiscard]] QSize minimumSizeHint() const override { return {160, 120}; }
 
     /// Where `part` of the page stands on the screen, from the area's upper edge.
     [[nodiscard]] int placeOf(const QWidget& part) const;

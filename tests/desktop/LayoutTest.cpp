@@ -1,0 +1,136 @@
+// Room on the page: nothing clipped, nothing out of reach, nothing that jumps.
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLabel>
+#include <QScrollBar>
+#include <tuple>
+
+#include "desktop/widgets/ChoiceButton.h"
+#include "tests/desktop/WindowFixture.h"
+
+namespace kestedit::test {
+namespace {
+
+/// The language file with every text half as long again, as another language may have it.
+std::string longTexts(const std::string& file, const std::filesystem::path& to) {
+    std::istringstream lines(bytesOf(file));
+    std::ofstream out(to, std::ios::binary);
+    for (std::string line; std::getline(lines, line);) {
+        if (!line.empty() && line.back() == '\r') line.pop_back();
+        const auto text = line.find('=');
+        if (line.starts_with('t') && text != std::string::npos) {
+            const std::size_t length = line.size() - text - 1;
+            while (line.size() - text - 1 < length * 3 / 2)
+                line += line.size() % 7 == 0 ? ' ' : 'n';
+        }
+        out << line << "\r\n";
+    }
+    return to.string();
+}
+
+/// Size of the screen in the toolkit's units: 1024x768 at 100 % and at 200 %.
+using Case = std::tuple<const char*, QSize, bool>;
+
+class Layout : public WindowTest, public testing::WithParamInterface<Case> {
+  protected:
+    void SetUp() override { QApplication::setFont(QFont("DejaVu Sans", 14)); }
+    void TearDown() override {
+        leave();
+        QApplication::setFont(QFont("DejaVu Sans", 10));
+    }
+
+    void expectRoom(const QWidget& widget) {
+        const QString name = widget.objectName();
+        if (widget.inherits("QLabel") || widget.inherits("QAbstractButton") || widget.inherits("QComboBox")) {
+            EXPECT_GE(widget.width(), widget.minimumSizeHint().width()) << name.toStdString();
+            const int needed =
+                widget.hasHeightForWidth() ? widget.heightForWidth(widget.width()) : widget.minimumSizeHint().height();
+            EXPECT_GE(widget.height(), needed) << name.toStdString();
+        }
+        EXPECT_TRUE(widget.parentWidget()->rect().contains(widget.geometry())) << name.toStdString();
+    }
+
+    /// Every visible part of the page has its room, and the page scrolls as far as it reaches.
+    void expectPageFits() {
+        const PageArea& area = *window().currentPage();
+        const QWidget& page = *area.widget();
+        for (const QWidget* widget : page.findChildren<QWidget*>())
+            if (widget->isVisible() && !widget->objectName().isEmpty() && !widget->objectName().startsWith("qt_"))
+                expectRoom(*widget);
+        EXPECT_GE(area.verticalScrollBar()->maximum(), page.height() - area.viewport()->height());
+        EXPECT_GE(area.horizontalScrollBar()->maximum(), page.width() - area.viewport()->width());
+    }
+};
+
+TEST_P(Layout, NothingIsClippedOrOutOfReach) {
+    const auto& [language, screen, lengthened] = GetParam();
+    setLanguage(language);
+    if (lengthened) values.Language = longTexts(values.Language, folder.path() / "long.lng");
+    std::ofstream(values.INIFile) << "[EditWin]\r\nDisableInsteadOfHide=1\r\n";
+    open();
+    window().resize(screen);
+    settle();
+    EXPECT_LE(window().width(), screen.width());
+    EXPECT_LE(window().height(), screen.height());
+    for (const auto* button : window().findChildren<QAbstractButton*>()) {
+        if (button->parentWidget() != &window()) continue;
+        EXPECT_TRUE(window().rect().contains(button->geometry())) << button->objectName().toStdString();
+        EXPECT_GE(button->width(), button->minimumSizeHint().width());
+    }
+    for (const int action : {0, 2, 3, 4, 5}) {
+        press("optAction(" + std::to_string(action) + ")");
+        for (int node = 0; node < list().topLevelItemCount(); ++node) {
+            clickNode(node);
+            SCOPED_TRACE(title(static_cast<std::size_t>(node)) + ", action " + std::to_string(action));
+            expectPageFits();
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Screens, Layout,
+                         testing::Combine(testing::ValuesIn(languages),
+                                          testing::Values(QSize(1024, 768), QSize(512, 384)), testing::Bool()));
+
+using Holes = WindowTest;
+
+// Three sets of fields share the page, and only one of them is there: it stands right below the options each time.
+TEST_F(Holes, HiddenOptionsTakeNoRoom) {
+    open();
+    turnTo("optIntervall(0)");
+    const auto place = [&](const char* name) {
+        QWidget& widget = binding(name).widget();
+        return QRect(widget.mapTo(window().currentPage()->widget(), QPoint()), widget.size());
+    };
+    const int gap = place("optIntervall(2)").top() - place("optIntervall(1)").bottom();
+    int option = 0;
+    for (const char* first : {"dxDays", "optIntTime(0)", "lblRTMon"}) {
+        press("optIntervall(" + std::to_string(option++) + ")");
+        EXPECT_EQ(place(first).top() - place("optIntervall(2)").bottom(), gap) << first;
+    }
+}
+
+// The page is scrolled to its end, and what a click hides makes it shorter.
+TEST_F(Holes, WhatIsClickedStaysUnderThePointer) {
+    open();
+    window().resize(700, 300);
+    settle();
+    press("optIntervall(1)");
+    press("optIntTime(3)");
+    PageArea& area = *window().currentPage();
+    area.verticalScrollBar()->setValue(area.verticalScrollBar()->maximum());
+    settle();
+    QWidget& option = binding("optIntTime(0)").widget();
+    const int before = area.placeOf(option);
+    ASSERT_GE(before, 0);
+    QTest::mouseClick(&option, Qt::LeftButton, Qt::NoModifier, QPoint(8, option.height() / 2));
+    settle();
+    ASSERT_FALSE(binding("dxDate").widget().isVisible());
+    EXPECT_EQ(area.placeOf(option), before);
+    // The room below the end is gone when the page is looked at again.
+    clickNode(0);
+    turnTo("optIntTime(0)");
+    EXPECT_EQ(area.widget()->minimumHeight(), 0);
+}
+
+}  // namespace
+}  // namespace kestedit::test
