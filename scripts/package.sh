@@ -20,5 +20,5 @@ lintian "${asRoot[@]}" --fail-on error "$packages"/*.deb
 echo "package.sh: lintian accepts the packages"
 
 if [[ ${1:-} == --try ]]; then
-    tests/install/package_test.sh "$packages" build/package/fresh
+    tests/install/package_test.sh "$packages" build/package/fresh || (($? == 77))  # 77: could not be tried here
 fi

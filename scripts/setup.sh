@@ -33,6 +33,7 @@ lint=(
 )
 package=(
     dpkg-dev
+    patch
     file
     lintian
     desktop-file-utils
