@@ -38,7 +38,7 @@ void EditorSession::show(ModalRun& driver) {
     editor.AppTitle(options_.title);
     editor.JobDir(jobFolder());
     editor.INIFile(settingsFile());
-    editor.Language(options_.language.value_or(userLanguageFile().string()));
+    editor.Language(options_.language.value_or(ownLanguageFile()));
     editor.JobExtension(options_.extension);
     editor.HelpFile(options_.helpFile);
 
@@ -54,6 +54,13 @@ std::string EditorSession::jobFolder() const {
     const fs::path folder = userFolders().data;
     fs::create_directories(folder);
     return folder.string();
+}
+
+// The files that come with the program stand in one page, whatever page the user's jobs have.
+std::string EditorSession::ownLanguageFile() {
+    const fs::path file = userLanguageFile();
+    ini_.setCodePage(file, CodePage(CodePage::western));
+    return file.string();
 }
 
 std::string EditorSession::settingsFile() const {

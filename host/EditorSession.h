@@ -28,6 +28,7 @@ class EditorSession {
 
   private:
     [[nodiscard]] std::string jobFolder() const;
+    [[nodiscard]] std::string ownLanguageFile();
     [[nodiscard]] std::string settingsFile() const;
 
     EditorOptions options_;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <map>
 #include <new>
 #include <stdexcept>
 #include <sys/stat.h>
@@ -57,6 +58,13 @@ class RecentFiles {
         std::erase_if(files_, [&](const Entry& entry) { return entry.path == file.native(); });
     }
 
+    void setPage(const fs::path& file, const CodePage& page) { ownPages_.insert_or_assign(file.native(), page); }
+
+    [[nodiscard]] const CodePage& pageOf(const fs::path& file) const {
+        const auto own = ownPages_.find(file.native());
+        return own == ownPages_.end() ? page_ : own->second;
+    }
+
     void enterScope() {
         if (depth_++ == 0) ++scope_;
     }
@@ -79,7 +87,7 @@ class RecentFiles {
             }
             files_.erase(known);
         }
-        SharedText text = std::make_shared<const IniText>(page_, FileContent::read(file));
+        SharedText text = std::make_shared<const IniText>(pageOf(file), FileContent::read(file));
         files_.insert(files_.begin(), {file.native(), text, scope_});
         forgetOldest();
         return text;
@@ -106,6 +114,7 @@ class RecentFiles {
     }
 
     CodePage page_;
+    std::map<std::string, CodePage> ownPages_;
     std::vector<Entry> files_;  // the one used last comes first
     std::uint64_t scope_ = 0;   // the newest scope, running or ended
     int depth_ = 0;             // scopes that run, one inside another
@@ -137,13 +146,18 @@ const CodePage& IniStore::codePage() const {
     return impl_->page;
 }
 
+void IniStore::setCodePage(const fs::path& file, CodePage page) {
+    impl_->files.setPage(file, page);
+}
+
 std::string IniStore::read(const fs::path& file, std::string_view section, std::string_view key,
                            std::string_view fallback, std::size_t size) {
     if (size == 0) return {};
     const CodePage& page = impl_->page;
     try {
         const SharedText text = impl_->files.get(file);
-        if (const auto value = findValue(*text, section, key)) return page.decode(page.cut(*value, size - 1));
+        const CodePage& own = text->codePage();
+        if (const auto value = findValue(*text, section, key)) return own.decode(own.cut(*value, size - 1));
     } catch (const std::system_error&) {
         // A file that cannot be read has no keys.
     }
@@ -197,7 +211,7 @@ IniStore::Edit IniStore::edit(const fs::path& file, bool startEmpty) {
     } catch (const std::system_error& failure) {
         if (failure.code() != std::errc::no_such_file_or_directory) throw;
     }
-    if (!base) base = std::make_shared<const IniText>(impl_->page);
+    if (!base) base = std::make_shared<const IniText>(impl_->files.pageOf(file));
     return Edit(std::make_unique<Edit::Impl>(Edit::Impl{file, IniEdit(std::move(base))}));
 }
 

@@ -28,7 +28,12 @@ class KESTEDIT_EXPORT IniStore {
     IniStore(const IniStore&) = delete;
     IniStore& operator=(const IniStore&) = delete;
 
+    /// The page of every file that has none of its own.
     [[nodiscard]] const CodePage& codePage() const;
+
+    /// Gives one file a page of its own, by the path under which it is read: texts that a program brings along stand in
+    /// their page, whatever page the user's files have. Call before the file is read.
+    void setCodePage(const std::filesystem::path& file, CodePage page);
 
     /// The value of `key`, cut to `size - 1` bytes of the code page (never inside a character); `fallback`, cut the
     /// same way and without the blanks at its end, when file, section or key is missing or the file cannot be read.
