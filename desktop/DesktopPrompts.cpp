@@ -109,6 +109,7 @@ Answer DesktopPrompts::showMessage(const MessageBox& box) {
         QPushButton* const button = message.addButton(choice.button);
         const QString caption = host_.caption ? host_.caption(choice.answer) : QString();
         if (!caption.isEmpty()) button->setText(caption);
+        button->setIcon({});  // themes have pictures for some of the answers only
     }
     message.setEscapeButton(choices.back().button);
     message.exec();
