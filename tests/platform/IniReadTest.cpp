@@ -24,29 +24,19 @@ class IniRead : public testing::Test {
     TemporaryFolder folder_;
 };
 
-TEST_F(IniRead, blanksAndTabsAtAllEndsAreDropped) {
-    EXPECT_EQ(valueIn(" \t[ \tS ]\n \t k \t=\t a b \t\n"), "a b");
-    EXPECT_EQ(valueIn("[S]\nk=\n"), "");
-    EXPECT_EQ(valueIn("[S]\nk= \t \n"), "");
-}
-
-TEST_F(IniRead, sectionNameEndsAtFirstBracketOrAtTheLinesEnd) {
-    EXPECT_EQ(valueIn("[S] ] rest ; k=0\nk=1"), "1");
+TEST_F(IniRead, sectionsAreLinesThatOpenABracketAndTheFirstOfANameCounts) {
+    EXPECT_EQ(valueIn(" \t[ \tS ] ] rest ; k=0\nk=1"), "1");
     EXPECT_EQ(valueIn("[S\nk=1"), "1");
-    EXPECT_EQ(valueIn("[S]]\nk=1"), "1");
     EXPECT_EQ(valueIn("[x]\nv=[S]\nk=1"), "(none)") << "a bracket inside a value starts no section";
-    EXPECT_EQ(valueIn("[S]\nk=1\n  [T] x=2", "[T] x"), "(none)")
-        << "a header behind blanks is no key of the section ahead";
-}
-
-TEST_F(IniRead, firstSectionAndFirstKeyCount) {
-    EXPECT_EQ(valueIn("[S]\nk=1\nK=2\n[s]\nk=3\nother=4"), "1");
+    EXPECT_EQ(valueIn("[S]\n  [T] x=2", "[T] x"), "(none)") << "a header behind blanks is no key of the section ahead";
+    EXPECT_EQ(valueIn("[S]\nk=1\nK=2\n[s]\nk=3"), "1");
     EXPECT_EQ(valueIn("[S]\nk=1\n[s]\nother=4", "other"), "(none)");
     EXPECT_EQ(valueIn("k=0\n[T]\nk=1\n[S]\n"), "(none)") << "keys ahead of the first section belong to none";
 }
 
-TEST_F(IniRead, onlyLinesWithANameAndAnEqualsSignAreKeys) {
-    EXPECT_EQ(valueIn("[S]\nk\nk=1=2"), "1=2");
+TEST_F(IniRead, keysAreLinesWithANameAndAnEqualsSign) {
+    EXPECT_EQ(valueIn("[S]\nk\n \t k \t=\t 1=2 \t\n"), "1=2");
+    EXPECT_EQ(valueIn("[S]\nk= \t \n"), "");
     EXPECT_EQ(valueIn("[S]\n; k=0\n;k=0\n k=1 ; no comment here"), "1 ; no comment here");
     EXPECT_EQ(valueIn("[S]\n#k=1", "#k"), "1");
     EXPECT_EQ(valueIn("[S]\n=1\n", ""), "(none)");
@@ -58,22 +48,16 @@ TEST_F(IniRead, onePairOfEqualQuotesIsDropped) {
     EXPECT_EQ(valueIn("[S]\nk=\"\"a\"\""), "\"a\"");
     EXPECT_EQ(valueIn("[S]\nk=\"a'"), "\"a'");
     EXPECT_EQ(valueIn("[S]\nk=\""), "\"");
-    EXPECT_EQ(valueIn("[S]\nk=\"a\" b"), "\"a\" b");
     EXPECT_EQ(valueIn("[S]\nk=a\\n\\\""), "a\\n\\\"") << "there are no escapes";
 }
 
-TEST_F(IniRead, lineEndsMayBeMixedAndMissing) {
+TEST_F(IniRead, lineEndsMayBeMixedAndStrangeBytesHarmNothing) {
     const std::string bytes = "[S]\r\na=1\nb=2\r\r\n\rc=3\r4\r\nk=5";
-    EXPECT_EQ(valueIn(bytes, "a"), "1");
     EXPECT_EQ(valueIn(bytes, "b"), "2");
     EXPECT_EQ(valueIn(bytes, "c"), "3\r4") << "a carriage return alone ends no line";
     EXPECT_EQ(valueIn(bytes), "5");
-}
-
-TEST_F(IniRead, strangeBytesHarmNothing) {
     EXPECT_EQ(valueIn("\xEF\xBB\xBF[S]\nk=1"), "1") << "byte order mark";
     EXPECT_EQ(valueIn("[S]\n\0\0=x\nk=a\0b\n"s), "a") << "a value ends at a NUL";
-    EXPECT_EQ(valueIn(std::string(100000, '\0')), "(none)");
     EXPECT_EQ(valueIn(std::string(100000, '[')), "(none)");
     EXPECT_EQ(valueIn(""), "(none)");
     EXPECT_EQ(valueIn("[S]\nk=\x81\x8D"), "\U0010FE81\U0010FE8D");
@@ -82,27 +66,20 @@ TEST_F(IniRead, strangeBytesHarmNothing) {
 TEST_F(IniRead, namesCompareWithoutCaseInTheWholePage) {
     EXPECT_EQ(valueIn("[s]\n\xC4rger=1", "\u00E4RGER"), "1");
     EXPECT_EQ(valueIn("[s]\n\u00C4rger=1\n\u0416=2", "\u0436", CodePage::utf8), "2");
-    EXPECT_EQ(valueIn("[s]\n\u00C4rger=1", "\u00E4RGER", CodePage::utf8), "1");
     EXPECT_EQ(valueIn("[s]\nk=1", "\u0436"), "(none)") << "a name that the page cannot hold is in no file";
 }
 
 TEST_F(IniRead, manyKeysAndSectionsAreAllFound) {
     std::string bytes;
-    for (int section = 0; section < 50; ++section) {
-        bytes += "[Section " + std::to_string(section) + "]\r\n";
-        for (int key = 0; key < 200; ++key) {
-            bytes += "Key" + std::to_string(key) + "=" + std::to_string(section * 1000 + key) + "\r\n";
-        }
+    for (int i = 0; i < 10000; ++i) {
+        if (i % 200 == 0) bytes += "[Section " + std::to_string(i / 200) + "]\n";
+        bytes += "Key" + std::to_string(i % 200) + "=" + std::to_string(i) + "\n";
     }
-    IniStore store;
-    const auto snapshot = store.open(folder_.file("many.ini", bytes));
-    for (int section = 0; section < 50; ++section) {
-        for (int key = 0; key < 200; ++key) {
-            ASSERT_EQ(snapshot.value("SECTION " + std::to_string(section), "key" + std::to_string(key)),
-                      std::to_string(section * 1000 + key));
-        }
+    const auto snapshot = IniStore().open(folder_.file("many.ini", bytes));
+    for (int i = 0; i < 10000; ++i) {
+        ASSERT_EQ(snapshot.value("SECTION " + std::to_string(i / 200), "key" + std::to_string(i % 200)),
+                  std::to_string(i));
     }
-    EXPECT_TRUE(snapshot.hasSection("section 49"));
     EXPECT_FALSE(snapshot.hasSection("section 50"));
     EXPECT_EQ(snapshot.value("section 1", "Key200"), std::nullopt);
 }
@@ -121,7 +98,6 @@ TEST_F(IniRead, readCutsToTheBuffer) {
     IniStore utf8{CodePage(CodePage::utf8)};
     const auto wide = folder_.file("wide.ini", "[S]\nk=a\u00E4\u20AC\xFF\xFF");
     EXPECT_EQ(utf8.read(wide, "S", "k", "", 3), "a") << "never inside a character";
-    EXPECT_EQ(utf8.read(wide, "S", "k", "", 4), "a\u00E4");
     EXPECT_EQ(utf8.read(wide, "S", "k", "", 8), "a\u00E4\u20AC\U0010FEFF");
     EXPECT_EQ(utf8.read(wide, "S", "none", "a\u00E4\u20AC", 6), "a\u00E4");
 }
@@ -132,15 +108,9 @@ TEST_F(IniRead, whatIsNoFileGivesTheDefaultAtOnce) {
     const auto large = folder_.file("large.ini", "[S]\nk=1");
     std::filesystem::resize_file(large, 200'000'000);
     IniStore store;
-    for (const auto& path :
-         {fifo, folder_.path(), folder_.path() / "missing", std::filesystem::path("/dev/zero"), large}) {
+    for (const std::filesystem::path& path : {fifo, folder_.path(), folder_.path() / "missing", large}) {
         EXPECT_EQ(store.read(path, "S", "k", "default", 100), "default") << path;
         EXPECT_THROW(static_cast<void>(store.open(path)), std::system_error) << path;
-    }
-    try {
-        static_cast<void>(store.open(fifo));
-    } catch (const std::system_error& error) {
-        EXPECT_EQ(error.what(), "read special file \"" + fifo.string() + "\": Operation not supported");
     }
 }
 
