@@ -44,11 +44,9 @@ class CInterfaceTest : public testing::Test {
         return kestEdit_event(editor_, verb, control, text);
     }
 
-    /// Names the job and its folders, and saves.
+    /// Names the job and saves it.
     void fillAndSave(const char* name) const {
         EXPECT_EQ(event("type", "dxName", name), KESTEDIT_OK) << kestEdit_lastError();
-        EXPECT_EQ(event("type", "dxSource", "/in"), KESTEDIT_OK) << kestEdit_lastError();
-        EXPECT_EQ(event("type", "dxDest", "/out"), KESTEDIT_OK) << kestEdit_lastError();
         EXPECT_EQ(event("click", "cmdSave"), KESTEDIT_OK) << kestEdit_lastError();
     }
 
@@ -98,14 +96,16 @@ TEST_F(CInterfaceTest, CreatesAndEditsAJobAndTellsTheHost) {
     ASSERT_EQ(kestEdit_show(editor_, 4), KESTEDIT_OK) << kestEdit_lastError();
     EXPECT_EQ(heard_, (Texts{"SearchJobs", "SetNewValues \"\""}));
     EXPECT_NE(bytesOf(job).find("FreeSpaceVal=4711\r\n"), std::string::npos);
-}
 
-// What a driver leaves open ends like a click on Cancel, which silences the object's events from then on.
-TEST_F(CInterfaceTest, AFormLeftOpenIsCancelled) {
+    // What a driver leaves open ends like a click on Cancel, which silences the object's events from then on.
+    heard_.clear();
+    script_ = [] {};
     ASSERT_EQ(kestEdit_show(editor_, 4), KESTEDIT_OK);
     script_ = [this] { EXPECT_EQ(event("close"), KESTEDIT_OK); };
     ASSERT_EQ(kestEdit_show(editor_, 4), KESTEDIT_OK);
     EXPECT_EQ(heard_, Texts{});
+    kestEdit_setDriver(editor_, nullptr, nullptr, nullptr);
+    EXPECT_EQ(kestEdit_show(editor_, 4), KESTEDIT_NO_WINDOW);
 }
 
 TEST_F(CInterfaceTest, MessageBoxesGoToTheHost) {
@@ -248,27 +248,8 @@ TEST_F(CInterfaceTest, OtherThreadsAreAnswered) {
     std::thread([this] { EXPECT_EQ(kestEdit_show(editor_, 4), KESTEDIT_OK) << kestEdit_lastError(); }).join();
 }
 
-TEST_F(CInterfaceTest, WithoutADriverThereIsNoWindow) {
-    kestEdit_setDriver(editor_, nullptr, nullptr, nullptr);
-    EXPECT_EQ(kestEdit_show(editor_, 4), KESTEDIT_NO_WINDOW);
-    EXPECT_EQ(heard_, Texts{});
-}
-
-TEST_F(CInterfaceTest, ASystemFailureLeavesTheFormOpen) {
-    kestEdit_setText(editor_, "JobDir", (folder_.path() / "missing").c_str());
-    script_ = [this] {
-        EXPECT_EQ(event("type", "dxName", "Night"), KESTEDIT_OK);
-        EXPECT_EQ(event("type", "dxSource", "/in"), KESTEDIT_OK);
-        EXPECT_EQ(event("type", "dxDest", "/out"), KESTEDIT_OK);
-        EXPECT_EQ(event("click", "cmdSave"), KESTEDIT_SYSTEM);
-        EXPECT_NE(std::string(kestEdit_lastError()).find("missing/"), std::string::npos) << kestEdit_lastError();
-        EXPECT_EQ(event("click", "cmdCancel"), KESTEDIT_OK);
-    };
-    EXPECT_EQ(kestEdit_show(editor_, 4), KESTEDIT_OK) << kestEdit_lastError();
-}
-
 // A host in C++ may throw out of its callbacks: it gets a code, and the next run finds the editor unharmed.
-TEST_F(CInterfaceTest, NothingThatACallbackThrowsComesOut) {
+TEST_F(CInterfaceTest, NothingThatACallbackThrowsOrTheSystemRefusesComesOut) {
     script_ = [] { throw std::bad_alloc(); };
     EXPECT_EQ(kestEdit_show(editor_, 4), KESTEDIT_SYSTEM);
     script_ = [] { throw 42; };
@@ -278,7 +259,13 @@ TEST_F(CInterfaceTest, NothingThatACallbackThrowsComesOut) {
     EXPECT_EQ(kestEdit_show(editor_, 4), KESTEDIT_INTERNAL);
     EXPECT_STREQ(kestEdit_lastError(), "out of an event");
     inEvent_ = [] {};
-    script_ = [this] { EXPECT_EQ(event("click", "cmdCancel"), KESTEDIT_OK); };
+    kestEdit_setText(editor_, "JobDir", (folder_.path() / "missing").c_str());
+    script_ = [this] {
+        EXPECT_EQ(event("type", "dxName", "Night"), KESTEDIT_OK);
+        EXPECT_EQ(event("click", "cmdSave"), KESTEDIT_SYSTEM);
+        EXPECT_NE(std::string(kestEdit_lastError()).find("missing/"), std::string::npos) << kestEdit_lastError();
+        EXPECT_EQ(event("click", "cmdCancel"), KESTEDIT_OK) << "the form has stayed open";
+    };
     EXPECT_EQ(kestEdit_show(editor_, 4), KESTEDIT_OK) << kestEdit_lastError();
 }
 

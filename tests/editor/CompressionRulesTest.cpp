@@ -1,8 +1,7 @@
-// Compression and extraction, run conditions and the program behind the run.
+// Compression and extraction: the marks and boxes that follow more than one choice.
 #include <gtest/gtest.h>
 
 #include "editor/rules/compression.h"
-#include "editor/rules/conditions.h"
 #include "tests/editor/rules/RuleForm.h"
 
 namespace kestedit {
@@ -33,19 +32,15 @@ TEST(CompressionRules, FolderStructureOfArchives) {
 }
 
 TEST(CompressionRules, OnlyTheSwitchOfExtractionClearsItsCompanion) {
-    for (const bool disable : {false, true}) {
-        for (const int state : {1, 2, 0}) {
-            RuleForm form(disable);
-            form.chkZipDelComp.State = form.chkZipDelDeComp.State = state;
-            form.chkZipDelCompBin.State = form.chkZipDelDeCompBin.State = 1;
-            ApplyZipDelComp(form);
-            ApplyZipDelDeComp(form);
-            EXPECT_EQ(form.chkZipDelComp.State, state == 1 ? 1 : 0) << "grey becomes clear";
-            EXPECT_EQ(form.chkZipDelCompBin.State, 1);
-            EXPECT_EQ(form.chkZipDelDeCompBin.State, state == 1 ? 1 : 0);
-            const std::string boxes = "chkZipDelCompBin chkZipDelCompBinFolder chkZipDelDeCompBin";
-            EXPECT_EQ(form.applying(boxes), state == 1 ? boxes : "");
-        }
+    for (const int state : {1, 2, 0}) {
+        RuleForm form;
+        form.chkZipDelComp.State = form.chkZipDelDeComp.State = state;
+        form.chkZipDelCompBin.State = form.chkZipDelDeCompBin.State = 1;
+        ApplyZipDelComp(form);
+        ApplyZipDelDeComp(form);
+        EXPECT_EQ(form.chkZipDelComp.State, state == 1 ? 1 : 0) << "grey becomes clear";
+        EXPECT_EQ(form.chkZipDelCompBin.State, 1);
+        EXPECT_EQ(form.chkZipDelDeCompBin.State, state == 1 ? 1 : 0);
     }
 }
 
@@ -105,45 +100,6 @@ TEST(CompressionRules, LevelsOutsideTheListLeaveTheText) {
         FillCompressionLevels(form);
         EXPECT_EQ(form.dxZipGrade.Items.size(), 4U);
         EXPECT_EQ(form.dxZipGrade.text(), level >= 1 && level <= 4 ? "level " + std::to_string(level) : "as before");
-    }
-}
-
-TEST(RunConditions, ProgramOptionsFollowTheirSwitch) {
-    const std::string group =
-        "optExecute(0) optExecute(1) lblExecPath lblExecParam dxExecParam dxExecPath chkExecWait "
-        "lblExecMaxSec";
-    for (const bool disable : {false, true}) {
-        RuleForm form(disable);
-        form.chkExecDo.State = form.chkExecWait.State = 1;
-        ApplyExecDo(form);
-        EXPECT_EQ(form.applying(group), group);
-        EXPECT_TRUE(test::reachable(form.dxExecMaxSec));
-        form.chkExecWait.State = 2;
-        ApplyExecWait(form);
-        EXPECT_FALSE(form.dxExecMaxSec.Enabled);
-        form.chkExecWait.State = 1;
-        form.chkExecDo.State = 0;
-        ApplyExecDo(form);
-        EXPECT_EQ(form.applying(group), "");
-        EXPECT_EQ(form.chkExecWait.State, 0);
-        EXPECT_FALSE(form.dxExecMaxSec.Enabled);
-        form.chkExecDo.State = 1;
-        ApplyExecDo(form);
-        EXPECT_EQ(form.applying(group), group);
-        EXPECT_EQ(form.chkExecWait.State, 0) << "not set back";
-        EXPECT_FALSE(form.dxExecMaxSec.Enabled);
-    }
-}
-
-TEST(RunConditions, FreeSpaceIsDisabledAndNeverHidden) {
-    for (const bool disable : {false, true}) {
-        RuleForm form(disable);
-        for (const int state : {1, 0, 2}) {
-            form.chkFreeSpace.State = state;
-            ApplyFreeSpace(form);
-            EXPECT_TRUE(form.dxFreeSpace.Visible);
-            EXPECT_EQ(form.dxFreeSpace.Enabled, state == 1);
-        }
     }
 }
 

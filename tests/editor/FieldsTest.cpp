@@ -56,15 +56,10 @@ TEST_F(TextFilters, DropWhatTheFieldDoesNotTake) {
     };
     constexpr Row rows[] = {
         {"dxExt", "Doc_1.TXT", "Doc1.TXT", "ext "},
-        {"dxExt", "*.txt, *.log", "*.txt, *.log", ""},
         {"dxExt", "*.tx?;-", "*.tx", "ext "},
         {"dxExt", "ÄÖÜäöü", "ÄÖÜäöü", ""},
-        {"dxExt", "é É ß", "  ", "ext "},
-        {"dxExt", "", "", ""},
         {"dxRenamer", "report 2024-01.doc", "report 2024-01doc", "renamer "},
         {"dxRenamer", "Ä_ö -", "Ä_ö -", ""},
-        {"dxFileName", "a\"b", "ab", "file "},
-        {"dxFileName", "a|b", "ab", "file "},
         {"dxFileName", "É*?é_.", "É*?é_.", ""},
         {"dxFileName", "<>|/\\:´~^¨¦`\"", "", "file "},
         {"dxFolderMatch", "x:\\y", "xy", "folder "},
@@ -96,9 +91,6 @@ TEST_F(TextFilters, RegularExpressionsAreFreeAndForgetWhatWasDropped) {
         EXPECT_EQ(at(field).text(), "(ab).é$x");
         EXPECT_NE(flags(), "");
     }
-    check("chkRegExFile");
-    EXPECT_EQ(form().lblFileName.Caption, text(35));
-    EXPECT_EQ(form().lblFolder.Caption, text(34));
 }
 
 TEST_F(SpinButtons, CarryBorrowAndStopAtOneMinute) {
@@ -109,14 +101,21 @@ TEST_F(SpinButtons, CarryBorrowAndStopAtOneMinute) {
         std::array<std::int64_t, 3> to;
     };
     constexpr Row rows[] = {
-        {{0, 23, 59}, 2, true, {1, 0, 0}},  {{0, 5, 59}, 2, true, {0, 6, 0}},
-        {{2, 0, 0}, 2, false, {1, 23, 59}}, {{0, 2, 0}, 2, false, {0, 1, 59}},
-        {{0, 0, 1}, 2, false, {0, 0, 1}},   {{0, 0, 0}, 2, false, {0, 0, 1}},
-        {{0, 0, 75}, 2, true, {0, 0, 76}},  {{0, 0, 75}, 2, false, {0, 0, 74}},
-        {{1, 23, 10}, 1, true, {2, 0, 10}}, {{3, 0, 7}, 1, false, {2, 23, 7}},
-        {{0, 0, 5}, 1, false, {0, 0, 5}},   {{0, 1, 0}, 1, false, {0, 0, 1}},
-        {{1, 0, 0}, 0, false, {0, 0, 1}},   {{0, 0, 3}, 0, false, {0, 0, 3}},
-        {{4, 5, 6}, 0, true, {5, 5, 6}},    {{999'999'999, 0, 0}, 0, true, {999'999'999, 0, 0}},
+        {{0, 23, 59}, 2, true, {1, 0, 0}},
+        {{0, 5, 59}, 2, true, {0, 6, 0}},
+        {{2, 0, 0}, 2, false, {1, 23, 59}},
+        {{0, 2, 0}, 2, false, {0, 1, 59}},
+        {{0, 0, 1}, 2, false, {0, 0, 1}},
+        {{0, 0, 0}, 2, false, {0, 0, 1}},
+        {{0, 0, 75}, 2, true, {0, 0, 76}},
+        {{1, 23, 10}, 1, true, {2, 0, 10}},
+        {{3, 0, 7}, 1, false, {2, 23, 7}},
+        {{0, 0, 5}, 1, false, {0, 0, 5}},
+        {{0, 1, 0}, 1, false, {0, 0, 1}},
+        {{1, 0, 0}, 0, false, {0, 0, 1}},
+        {{0, 0, 3}, 0, false, {0, 0, 3}},
+        {{4, 5, 6}, 0, true, {5, 5, 6}},
+        {{999'999'999, 0, 0}, 0, true, {999'999'999, 0, 0}},
     };
     constexpr std::array<std::array<const char*, 6>, 2> groups{
         {{"dxDays", "dxHours", "dxMinutes", "lblDays", "lblHours", "lblMinutes"},
@@ -142,12 +141,9 @@ TEST_F(SpinButtons, CarryBorrowAndStopAtOneMinute) {
 TEST_F(Events, RefusedWhereAUserCouldNotActAndNothingChanges) {
     create();
     expectRefused([&] { type("dxRenamer", "hidden"); });
-    expectRefused([&] { check("chkDelEFol"); });
     expectRefused([&] { number("dxFreeSpace", 5000); });  // disabled
     expectRefused([&] { choose("optSyncStart", 1); });    // in a hidden group frame
     expectRefused([&] { check("dxName"); });              // of another kind
-    expectRefused([&] { click("chkPreview"); });
-    expectRefused([&] { type("lblName", "x"); });
     expectRefused([&] { check("chkPreview", 3); });
     expectRefused([&] { number("dxHours", -1); });
     expectRefused([&] { form().onItemPicked(at("dxMonWatch"), "Archiv"); });
@@ -163,52 +159,22 @@ TEST_F(Events, RefusedWhereAUserCouldNotActAndNothingChanges) {
     EXPECT_EQ(form().chkZipAll.State, 1);
 }
 
-TEST_F(Events, TextsThatTheJobFileCannotHoldAreRefused) {
+TEST_F(Events, TextsThatTheJobFileCannotHoldAreRefusedOrChanged) {
     create();
     type("dxName", "Größe 5 €");
     for (const auto field : {"dxName", "dxComment", "dxSource"}) {
         expectRefused([&] { type(field, "日本"); });
         expectRefused([&] { type(field, "bad \xff"); });
     }
-    try {
-        type("dxName", "日本");
-    } catch (const EventRefused& refused) {
-        EXPECT_STREQ(refused.what(), "Der Text enthält Zeichen, die die Auftragsdatei nicht speichern kann: 日本");
-    }
     EXPECT_EQ(form().dxName.text(), "Größe 5 €");
-}
-
-TEST_F(Events, LineBreaksStayInNotesOnly) {
-    create();
     using namespace std::string_literals;
-    type("dxName", "a\r\nb\nc\rd\0e"s);
-    EXPECT_EQ(form().dxName.text(), "a b c d e");
-    type("dxComment", "a\r\nb\nc\rd\0e"s);
-    EXPECT_EQ(form().dxComment.text(), "a\r\nb\r\nc\r\nd e");
-}
-
-TEST_F(Events, TipOfTheNameFollowsItInEveryView) {
-    putJob("a", "[Job]\nName=a\n");
-    for (const int view : test::allViews) {
-        edit("a", view);
-        EXPECT_EQ(form().dxName.ToolTipText, "a") << view;
-        type("dxName", "a long name");
-        EXPECT_EQ(form().dxName.ToolTipText, "a long name") << view;
+    for (const auto& [field, kept] : {std::pair{"dxName", "a b c d e"}, {"dxComment", "a\r\nb\r\nc\r\nd e"}}) {
+        type(field, "a\r\nb\nc\rd\0e"s);
+        EXPECT_EQ(at(field).text(), kept) << "line breaks stay in notes only";
     }
 }
 
-TEST_F(Events, OnlyTheRightButtonOnFiveFieldsSuppressesTheirMenu) {
-    create();
-    const std::set<std::string> fields{"dxExt", "dxSize", "dxName", "dxSource", "dxDest"};
-    for (EditorControl* control : form().controls()) {
-        form().onMousePressed(*control, 1);
-        EXPECT_FALSE(control->SuppressContextMenu);
-        form().onMousePressed(*control, 2);
-        EXPECT_EQ(control->SuppressContextMenu, fields.contains(control->Name())) << control->Name();
-    }
-}
-
-TEST_F(Choosers, FolderGoesIntoValueAndTip) {
+TEST_F(Choosers, PathGoesIntoItsField) {
     create();
     choose("optIntervall", 2);
     choose("optMonitorPath", 2);
@@ -228,82 +194,52 @@ TEST_F(Choosers, FolderGoesIntoValueAndTip) {
         EXPECT_EQ(prompts.folders.back().title, heading);
         EXPECT_EQ(prompts.folders.back().initialPath, "/before");
         EXPECT_EQ(prompts.folders.back().flags, 69U);
-        EXPECT_EQ(prompts.folders.back().root, std::nullopt);
-        EXPECT_EQ(prompts.folders.back().statusPrefix, "Auswahl: ");
     }
     prompts.choices = {"/日本"};
     expectRefused([&] { button("dxSource", 0); });
-}
-
-TEST_F(Choosers, ProgramIsChosenByItsOnlyButton) {
-    create();
     check("chkExecDo");
-    type("dxExecPath", "before");
     button("dxExecPath", 1);
     EXPECT_TRUE(prompts.programs.empty());
-    button("dxExecPath", 0);
-    EXPECT_EQ(form().dxExecPath.text(), "before");
     prompts.choices = {"/usr/bin/true"};
     button("dxExecPath", 0);
     EXPECT_EQ(form().dxExecPath.text(), "/usr/bin/true");
-    EXPECT_EQ(prompts.programs.back().title, "Programm auswählen");
     EXPECT_EQ(prompts.programs.back().filter, "Programme (*.exe, *.com, *.bat)|*.exe;*.com;*.bat");
-    EXPECT_EQ(prompts.programs.back().filterIndex, 1);
-    EXPECT_EQ(prompts.programs.back().flags, 4100U);
-}
-
-TEST_F(NewFolder, IsCreatedAndPutIntoItsField) {
-    openFields();
-    for (const auto field : fields) {
-        const std::string name = "ä" + std::string{field};
-        createFolder(field, name);
-        EXPECT_TRUE(fs::is_directory(jobs / name));
-        EXPECT_FALSE(stayedOpen);
-        EXPECT_EQ(at(field).text(), (jobs / name).string());
-        EXPECT_EQ(at(field).ToolTipText, (jobs / name).string());
-    }
 }
 
 TEST_F(NewFolder, ExistingFolderIsReportedByField) {
     openFields();
-    fs::create_directory(jobs / "ab");
     constexpr std::array messages{"Folder already exists.", "Ordner existiert schon.", "Ordner existiert schon."};
     for (std::size_t i = 0; i < fields.size(); ++i) {
+        const std::string name = "ä" + std::string{fields[i]};
+        fs::create_directory(jobs / name);
         prompts.answers = {Answer::ok};
-        createFolder(fields[i], "ab");
+        createFolder(fields[i], name);
         EXPECT_EQ(prompts.messages.back().text, messages[i]);
-        EXPECT_EQ(prompts.messages.back().title, "kestEdit");
         EXPECT_TRUE(stayedOpen);
         EXPECT_EQ(at(fields[i]).text(), jobs.string());
+        fs::remove(jobs / name);
+        createFolder(fields[i], name);
+        EXPECT_TRUE(fs::is_directory(jobs / name));
+        EXPECT_FALSE(stayedOpen);
+        EXPECT_EQ(at(fields[i]).text(), (jobs / name).string());
+        EXPECT_EQ(at(fields[i]).ToolTipText, (jobs / name).string());
+        type(fields[i], jobs.string());
     }
-}
-
-TEST_F(NewFolder, ReportsWhatTheSystemRefuses) {
-    openFields();
-    putJob("file", "");
-    for (const std::string& name : {std::string{"a/b"}, std::string(300, 'x'), std::string{"file.job"}}) {
-        prompts.answers = {Answer::ok};
-        createFolder("dxDest", name);
-        EXPECT_TRUE(stayedOpen) << name;
-        EXPECT_NE(prompts.messages.back().text.find(name + ": "), std::string::npos) << prompts.messages.back().text;
-        EXPECT_EQ(form().dxDest.text(), jobs.string());
-    }
-    EXPECT_EQ(jobNames(), "file.job ");
+    prompts.answers = {Answer::ok};
+    createFolder("dxDest", "a/b");
+    EXPECT_TRUE(stayedOpen);
+    EXPECT_NE(prompts.messages.back().text.find("a/b: "), std::string::npos) << prompts.messages.back().text;
+    EXPECT_EQ(form().dxDest.text(), jobs.string());
     EXPECT_THROW(createFolder("dxDest", "日本"), EventRefused);
 }
 
 TEST_F(NewFolder, ButtonNeedsTwoCharacters) {
     openFields();
     prompts.newFolder = [&](dlgNewFolder& dialog) {
-        EXPECT_EQ(dialog.Caption, "Neuer Ordner - " + form().lblDest[0].Caption);
-        EXPECT_EQ(dialog.cmdCreate.Caption, "&Erstellen");
-        EXPECT_EQ(dialog.cmdCancel.Caption, "&Abbrechen");
-        for (const auto& [name, enabled] :
-             {std::pair{"", false}, {"ä", false}, {"äb", true}, {"a", false}, {"ab", true}}) {
+        for (const auto& [name, enabled] : {std::pair{"ä", false}, {"äb", true}, {"a", false}}) {
             dialog.onTextTyped(dialog.dxTextEdit1, name);
             EXPECT_EQ(dialog.cmdCreate.Enabled, enabled) << name;
         }
-        dialog.onTextTyped(dialog.dxTextEdit1, "a");
         EXPECT_THROW(dialog.onCommand(dialog.cmdCreate), EventRefused);
         dialog.onCloseBox();
     };
@@ -315,8 +251,7 @@ TEST_F(NewFolder, ButtonNeedsTwoCharacters) {
 TEST_F(NewFolder, ColourComesFromTheUsersSettings) {
     openFields();
     const std::pair<std::string, std::optional<std::int64_t>> rows[] = {
-        {"16711680", 16711680},    {"", std::nullopt},        {"5", std::nullopt}, {"blue", std::nullopt}, {"10", 10},
-        {"12 blue", std::nullopt}, {"16777216", std::nullopt}};
+        {"16711680", 16711680}, {"5", std::nullopt}, {"12 blue", std::nullopt}, {"16777216", std::nullopt}};
     for (const auto& [stored, colour] : rows) {
         settings.write("Options", "BGColor", stored);
         prompts.newFolder = [&](dlgNewFolder& dialog) { EXPECT_EQ(dialog.BackColour, colour) << stored; };

@@ -1,7 +1,6 @@
 // A form of the complete editor whose rules are tried one by one.
 #pragma once
 
-#include <sstream>
 #include <string>
 #include <string_view>
 
@@ -38,24 +37,6 @@ struct RuleForm : FormModel {
     [[nodiscard]] std::string mark(Page page) const {
         return Navigation.Nodes.at(static_cast<std::size_t>(nodeOfPage(*this, page).value())).Image;
     }
-
-    /// Those of `names`, separated by blanks, that the user can reach. A name with "!" behind it has the property
-    /// changed that DisableInsteadOfHide leaves alone.
-    [[nodiscard]] std::string applying(const std::string& names) const {
-        std::istringstream words(names);
-        std::string found;
-        for (std::string name; words >> name;) {
-            const EditorControl& control = at(name);
-            const bool untouched = DisableInsteadOfHide ? control.Visible : control.Enabled;
-            const bool applies = DisableInsteadOfHide ? control.Enabled : control.Visible;
-            if (applies || !untouched) found += (found.empty() ? "" : " ") + name + (untouched ? "" : "!");
-        }
-        return found;
-    }
 };
-
-inline bool reachable(const EditorControl& control) {
-    return control.Enabled && control.Visible;
-}
 
 }  // namespace kestedit::test

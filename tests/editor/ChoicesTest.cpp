@@ -1,0 +1,182 @@
+// What each choice of the user makes reachable and which mark it gives its page: one walk of events for each subject.
+#include <map>
+
+#include "tests/editor/EditorFixture.h"
+
+namespace kestedit {
+namespace {
+
+/// A box or an option as the user sets it: "chkSubFolder", "chkSubFolder=2", "optExt(1)". A letter for each group of
+/// controls that can be reached then, and the mark of the page; "any" mark is the business of another walk.
+struct Step {
+    std::string event, groups, mark = "any";
+};
+
+struct Walk {
+    std::string_view name;
+    int page;
+    std::map<char, std::string> groups;
+    std::vector<Step> steps;
+    bool hides = true;  ///< what does not apply is hidden, or with DisableInsteadOfHide disabled, and nothing else
+};
+
+// clang-format off
+const std::vector<Walk> walks{
+    {"folders", 5,
+     {{'a', "lblFolderTitle optFolderMatch(0) optFolderMatch(1) optFolderMatch(2) lblNoScans chkNoHiddenFolder "
+            "chkNoSystemFolder chkNoReadOnlyFolder"},
+      {'b', "lblFolder dxFolderMatch chkRegExFolder"},
+      {'c', "chkFStruct"},
+      {'d', "chkDelEFolSource"},
+      {'e', "chkDelTypeSource"}},
+     {{"", "", ""}, {"chkSubFolder", "ac", "8"}, {"optFolderMatch(1)", "abc", "8"}, {"chkSubFolder=2", "", ""},
+      {"optAction(1)", "e", ""}, {"chkSubFolder", "abcde", "8"}, {"optAction(3)", "ab"}, {"optAction(5)", "ab"},
+      {"optAction(0)", "abc", "8"}}},
+    {"files", 6,
+     {{'a', "lblFileName dxFileName chkRegExFile"}},
+     {{"", "", ""}, {"optFileMatch(1)", "a", "8"}, {"optFileMatch(2)", "a", "8"}, {"optFileMatch(0)", "", ""}}},
+    {"extensions", 7,
+     {{'a', "lblExt dxExt"}},
+     {{"", "", ""}, {"optExt(1)", "a", "8"}, {"optExt(2)", "a", "8"}, {"optExt(0)", "", ""}}},
+    {"size", 8,
+     {{'a', "dxSize lblSize"}},
+     {{"", "", ""}, {"optSize(1)", "a", "8"}, {"optSize(2)", "a", "8"}, {"optSize(0)", "", ""}}},
+    {"age and time stamps share a mark", 9,
+     {{'a', "optFileAgeType(0) optFileAgeType(1) optFileAgeType(2)"},
+      {'b', "dxAge lblFileAgeDays dxAgeHours lblFileAgeHours dxAgeMinutes lblFileAgeMinutes"},
+      {'c', "lblDatefrom dxDateFrom lblDateTo dxDateTo"},
+      {'d', "optFileDate(0) optFileDate(1) optFileDate(2) lblFileDate dxFileDate"},
+      {'t', "lblDestTime chkDestFileTime(0) chkDestFileTime(1) chkDestFileTime(2)"}},
+     {{"", "t", ""}, {"optAge(1)", "abt", "8"}, {"optAge(3)", "act", "8"}, {"optAge(4)", "adt", "8"},
+      {"optAge(2)", "abt", "8"}, {"chkDestFileTime(2)", "abt", "8"}, {"optAge(0)", "t", "8"},
+      {"optAction(3)", "", ""}, {"optAction(5)", "t", "8"}, {"optAction(2)", "", ""}, {"optAction(1)", "t", "8"},
+      {"chkDestFileTime(2)=0", "t", ""}}},
+    {"attributes", 10,
+     {{'a', "lblSourceAttrib optAttrSetSource(0) optAttrSetSource(1)"},
+      {'b', "chkAttrArchive(2) chkAttrReadOnly(2) chkAttrSystem(2) chkAttrHidden(2)"},
+      {'c', "lblDestAttrib optAttrSetDest(0) optAttrSetDest(1)"},
+      {'d', "chkAttrArchive(1) chkAttrReadOnly(1) chkAttrSystem(1) chkAttrHidden(1)"}},
+     {{"", "ac", ""}, {"optAttrSetSource(1)", "abc", "8"}, {"optAttrSetDest(1)", "abcd", "8"},
+      {"chkAttrHidden(1)", "abcd", "8"}, {"optAttrSetSource(0)", "acd", "8"}, {"optAction(3)", "a", ""},
+      {"optAction(4)", "acd", "8"}, {"optAction(2)", "", ""}, {"optAction(5)", "acd", "8"},
+      {"optAttrSetDest(0)", "ac", ""}, {"chkAttrComp=2", "ac", ""}, {"chkAttrComp", "ac", "8"},
+      {"chkAttrComp=0", "ac", ""}, {"chkAttrReadOnly(0)", "ac", "8"}}},
+    {"existing files", 12,
+     {{'a', "lblExist optExist(0) optExist(1) optExist(2) optExist(3) optExist(4)"},
+      {'b', "lblRenamer dxRenamer optRenameSelect(0) optRenameSelect(1) lblAnd dxPickRenamer chkDelSourceRename"},
+      {'c', "dxPickExistSelecter"},
+      {'d', "lblExistTime optExtFileTime(0) optExtFileTime(1) optExtFileTime(2)"}},
+     {{"", "a", ""}, {"optExist(1)", "ad", ""}, {"optExist(2)", "ab", ""}, {"optExist(3)", "a", ""},
+      {"optExist(4)", "acd", ""}, {"chkSubFolder", "acd", "8"}, {"optAction(2)", "", "10"}, {"optAction(1)", "acd"},
+      {"optAction(5)", ""}, {"optSyncExist(2)", "cd"}, {"optAction(0)", "acd"}, {"optExist(0)", "a", "8"},
+      {"chkFStruct=0", "a", ""}}},
+    {"both ways and comparing delete nothing", 12,
+     {{'a', "chkSyncDelete"}},
+     {{"optAction(5)", "a"}, {"chkOnlyCompare", ""}, {"optSyncStart(1)", ""}, {"chkOnlyCompare=0", ""},
+      {"chkOnlyCompare", ""}, {"optSyncStart(0)", ""}, {"chkOnlyCompare=0", "a"}}, false},
+    {"deleting", 5,
+     {{'a', "chkDelType lblDeleteFiles"},
+      {'b', "chkDelEFol"},
+      {'c', "lblDest(0) dxDest"}},
+     {{"", "c"}, {"optAction(2)", "a"}, {"chkSubFolder", "ab"}, {"optAction(0)", "c"}, {"chkSubFolder=0", "c"},
+      {"optAction(2)", "a"}, {"optAction(4)", "c"}}, false},
+    {"start", 3,
+     {{'a', "dxDays lblDays dxHours lblHours dxMinutes lblMinutes"},
+      {'b', "optIntTime(0) optIntTime(1) optIntTime(2) optIntTime(3) lblDateTime dxDateTime"},
+      {'c', "dxIntWeekDay"},
+      {'d', "dxIntMonthDay"},
+      {'e', "lblDate dxDate"},
+      {'f', "lblRTMon lblMonDelay dxMonDelay lblWatchWhat dxMonWatch chkMonSubFolder"},
+      {'g', "optMonitorPath(0) optMonitorPath(2)"},
+      {'h', "optMonitorPath(1)"},
+      {'i', "dxMonitorPath"}},
+     {{"", "a", ""}, {"optIntervall(1)", "b", "8"}, {"optIntTime(1)", "bc", "8"}, {"optIntTime(2)", "bd", "8"},
+      {"optIntTime(3)", "be", "8"}, {"optIntervall(2)", "fgh", "8"}, {"optMonitorPath(2)", "fghi", "8"},
+      {"optAction(2)", "fgi", "8"}, {"optAction(5)", "fghi", "8"}, {"optIntervall(0)", "a", ""}}},
+    {"program", 4,
+     {{'a', "optExecute(0) optExecute(1) lblExecPath lblExecParam dxExecParam dxExecPath chkExecWait lblExecMaxSec"},
+      {'b', "dxExecMaxSec"}},
+     {{"", ""}, {"chkExecDo", "a"}, {"chkExecWait", "ab"}, {"chkExecWait=2", "a"}, {"chkExecWait", "ab"},
+      {"chkExecDo=0", ""}, {"chkExecDo", "a"}}, false},
+    {"free space", 4,
+     {{'a', "dxFreeSpace"}},
+     {{"", ""}, {"chkFreeSpace", "a"}, {"chkFreeSpace=2", ""}}, false},
+    {"archives", 11,
+     {{'a', "chkZipDelCompBin chkZipDelCompBinFolder"},
+      {'b', "chkZipDelDeCompBin"}},
+     {{"optAction(3)", ""}, {"chkZipDelComp", "a"}, {"optAction(4)", "a"}, {"chkZipDelDeComp", "ab"}}},
+    {"compressing has options", 11,
+     {},
+     {{"", "", "10"}, {"optAction(3)", "", "8"}, {"optAction(5)", "", "10"}, {"optAction(4)", "", "8"},
+      {"optAction(1)", "", "10"}}},
+    {"compressing and extracting keep the mark", 12,
+     {},
+     {{"optAction(2)", "", "10"}, {"optAction(3)", "", "10"}, {"optAction(5)", "", ""}, {"optAction(2)", "", "10"},
+      {"optAction(4)", "", ""}, {"optAction(2)", "", "10"}, {"optAction(1)", "", ""}}},
+};
+// clang-format on
+
+struct Choices : test::EditorTest, testing::WithParamInterface<bool> {
+    void SetUp() override {
+        folder.file("program.ini", GetParam() ? "[EditWin]\nDisableInsteadOfHide=1\n" : "");
+        create();
+    }
+    void run(const std::string& event) {
+        if (event.empty()) return;
+        EditorControl& control = at(event.substr(0, event.find('=')));
+        if (control.Kind == ControlKind::option)
+            form().onOptionChosen(control);
+        else
+            form().onCheckClicked(control, event.find('=') == event.npos ? 1 : event.back() - '0');
+    }
+    /// The letters of the groups that can be reached; "?" behind one that can in part.
+    [[nodiscard]] std::string reached(const Walk& walk) {
+        std::string letters;
+        for (const auto& [letter, names] : walk.groups) {
+            std::size_t yes = 0;
+            std::size_t all = 0;
+            std::istringstream words(names);
+            for (std::string name; words >> name; ++all) {
+                const EditorControl& control = at(name);
+                yes += control.Enabled && control.Visible ? 1 : 0;
+                if (walk.hides) {
+                    EXPECT_TRUE(GetParam() ? control.Visible : control.Enabled) << name;
+                }
+            }
+            if (yes > 0) letters += letter;
+            if (yes > 0 && yes < all) letters += '?';
+        }
+        return letters;
+    }
+};
+INSTANTIATE_TEST_SUITE_P(DisableOrHide, Choices, testing::Bool());
+
+TEST_P(Choices, MakeTheirEditorsReachableAndMarkTheirPage) {
+    for (const Walk& walk : walks) {
+        create();
+        for (const Step& step : walk.steps) {
+            SCOPED_TRACE(std::string{walk.name} + " " + std::to_string(&step - walk.steps.data()) + " " + step.event);
+            run(step.event);
+            EXPECT_EQ(reached(walk), step.groups);
+            if (step.mark != "any") {
+                EXPECT_EQ(image(static_cast<std::size_t>(walk.page)), step.mark);
+            }
+        }
+    }
+}
+
+TEST_P(Choices, TimeStampsMatterToConditionsThatCompareTimes) {
+    constexpr bool comparesTimes[] = {true, true, false, true, true, false, true, true};
+    choose("optExist", 4);
+    for (const int action : {0, 5}) {
+        act(action);
+        if (action == 5) choose("optSyncExist", 2);
+        for (std::size_t i = 0; i < std::size(comparesTimes); ++i) {
+            pick("dxPickExistSelecter", i);
+            EXPECT_EQ(form().optExtFileTime[0].Visible && form().optExtFileTime[0].Enabled, comparesTimes[i]) << i;
+        }
+    }
+}
+
+}  // namespace
+}  // namespace kestedit
