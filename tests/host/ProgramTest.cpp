@@ -14,7 +14,6 @@ TEST_F(ProgramTest, WrongUsageIsOneLineAndDoesNothing) {
         const char* error;
     } cases[] = {
         {"", "A subcommand is required"},
-        {"frobnicate", "unexpected argument \"frobnicate\""},
         {"script new a.script b.script", "The following argument was not expected: b.script"},
         {"edit", "FILE is required"},
         {"new --view 32768", "--view: \"32768\" is no whole number that fits"},
@@ -22,7 +21,6 @@ TEST_F(ProgramTest, WrongUsageIsOneLineAndDoesNothing) {
         {"new --now 2026-02-29T00:00:00", "--now: \"2026-02-29T00:00:00\" is no moment such as 2026-11-21T14:05:00"},
         {"new --date-format dd.MM", "--date-format: date format \"dd.MM\": day, month or year is missing"},
         {"ini get a.ini S k --code-page 99", "--code-page: code page 99 is not known to this system"},
-        {"ini set a.ini S k", "VALUE is required"},
     };
     for (const auto& [arguments, error] : cases) {
         const auto result = kestedit(arguments);
@@ -46,21 +44,10 @@ TEST_F(ProgramTest, WithoutAWindowNewAndEditSaySo) {
 }
 
 TEST_F(ProgramTest, AJobThatCannotBeReadEndsItAtOnce) {
-    std::filesystem::create_directory(folder.path() / "folder");
-    ASSERT_EQ(std::system(("mkfifo '" + (folder.path() / "pipe").string() + "'").c_str()), 0);
-    const struct {
-        const char* file;
-        const char* error;
-    } cases[] = {{"missing", "open \"missing\": No such file or directory"},
-                 {"folder", "read folder \"folder\": Is a directory"},
-                 {"pipe", "read special file \"pipe\": Operation not supported"},
-                 {"\"$(printf 'two\\nlines')\"", "open \"two?lines\": No such file or directory"}};
-    for (const auto& [file, error] : cases) {
-        for (const std::string command : {"edit ", "script edit "}) {
-            const auto result = kestedit(command + file + " </dev/null");
-            EXPECT_EQ(result.code, 1) << file;
-            EXPECT_EQ(result.err, std::string("kestedit: ") + error + '\n');
-        }
+    for (const std::string command : {"edit ", "script edit "}) {
+        const auto result = kestedit(command + "\"$(printf 'two\\nlines')\" </dev/null");
+        EXPECT_EQ(result.code, 1) << command;
+        EXPECT_EQ(result.err, "kestedit: open \"two?lines\": No such file or directory\n");
     }
 }
 
@@ -73,7 +60,6 @@ TEST_F(ProgramTest, IniReadsAndWritesOneKey) {
     EXPECT_EQ(kestedit("ini get a.ini job GRÖßE").out, "a \"b\" ä\n");
     EXPECT_EQ(kestedit("ini get a.ini Job Größe --size 3").out, "a \n");
     EXPECT_EQ(kestedit("ini get a.ini Job x --default -5").out, "-5\n");
-    EXPECT_EQ(kestedit("ini get none.ini Job x --default d").out, "d\n");
 
     // Values that a command-line parser could take for something else.
     for (const std::string value : {"''", "new", "set", "'[]'", "'{}'", "%%", "-- -5", "-- --help"}) {
@@ -86,16 +72,15 @@ TEST_F(ProgramTest, IniReadsAndWritesOneKey) {
 }
 
 TEST_F(ProgramTest, IniTellsTheSystemsReason) {
-    const auto lost = kestedit("ini set none/a.ini S k v");
-    EXPECT_EQ(lost.code, 1);
-    EXPECT_EQ(lost.err, "kestedit: write \"none/a.ini\": No such file or directory\n");
-    const auto foreign = kestedit("ini set a.ini S k 字");
-    EXPECT_EQ(foreign.code, 1);
-    EXPECT_EQ(foreign.err, "kestedit: write \"a.ini\": Invalid or incomplete multibyte or wide character\n");
-    const auto folderRead = kestedit("ini get home S k --default d");
-    EXPECT_EQ(folderRead.code, 1);
-    EXPECT_EQ(folderRead.out, "");
-    EXPECT_EQ(folderRead.err, "kestedit: read folder \"home\": Is a directory\n");
+    for (const auto& [arguments, reason] :
+         {std::pair{"set none/a.ini S k v", "write \"none/a.ini\": No such file or directory"},
+          {"set a.ini S k 字", "write \"a.ini\": Invalid or incomplete multibyte or wide character"},
+          {"get home S k --default d", "read folder \"home\": Is a directory"}}) {
+        const auto result = kestedit(std::string("ini ") + arguments);
+        EXPECT_EQ(result.code, 1);
+        EXPECT_EQ(result.out, "");
+        EXPECT_EQ(result.err, std::string("kestedit: ") + reason + '\n');
+    }
 }
 
 TEST_F(ProgramTest, ResultsThatNobodyTakesAreAFailure) {
@@ -123,28 +108,26 @@ TEST_F(ProgramTest, EveryOptionAndEventIsDocumented) {
     const std::string language = test::bytesOf(KESTEDIT_DOCS "/script.md");
     const std::string help = kestedit("script --help").out;
 
-    int found = 0;
-    for (const std::string& text : {help, kestedit("ini get --help").out, kestedit("--help").out}) {
-        const std::regex option("--[a-z-]+");
-        for (auto match = std::sregex_iterator(text.begin(), text.end(), option); match != std::sregex_iterator{};
-             ++match) {
-            EXPECT_NE(manual.find(match->str()), std::string::npos) << match->str();
-            ++found;
-        }
-    }
-    EXPECT_GT(found, 12);
+    const auto allIn = [](const std::string& text, const std::regex& pattern) {
+        std::vector<std::string> found;
+        const std::sregex_token_iterator begin(text.begin(), text.end(), pattern, 1);
+        std::copy(begin, std::sregex_token_iterator{}, std::back_inserter(found));
+        return found;
+    };
+    const auto options =
+        allIn(help + kestedit("ini get --help").out + kestedit("--help").out, std::regex("(--[a-z-]+)"));
+    EXPECT_GT(options.size(), 12U);
+    for (const std::string& option : options)
+        EXPECT_NE(manual.find(option), std::string::npos) << option;
 
-    const std::string events =
-        help.substr(help.find("A script has"), help.find("Example:") - help.find("A script has"));
-    const std::regex row("\n  ([a-z][^ ]*(?: [^ ]+)*)  ");
-    found = 0;
-    for (auto match = std::sregex_iterator(events.begin(), events.end(), row); match != std::sregex_iterator{};
-         ++match) {
-        const std::string usage = std::regex_replace(match->str(1), std::regex(R"(\|)"), R"(\|)");  // inside a table
+    const auto begin = help.find("A script has");
+    const auto events =
+        allIn(help.substr(begin, help.find("Example:") - begin), std::regex("\n  ([a-z][^ ]*(?: [^ ]+)*)  "));
+    EXPECT_GT(events.size(), 20U);
+    for (const std::string& event : events) {
+        const std::string usage = std::regex_replace(event, std::regex(R"(\|)"), R"(\|)");  // inside a table
         EXPECT_NE(language.find("| `" + usage + "` |"), std::string::npos) << usage;
-        ++found;
     }
-    EXPECT_GT(found, 20);
 }
 
 }  // namespace
