@@ -66,7 +66,11 @@ class Emptyable : public Edit {
         const bool all = this->lineEdit()->selectedText() == this->lineEdit()->text();
         if (deletes && all && !empty_ && !this->isReadOnly()) return empty();
         if (empty_ && deletes) return;
-        if (empty_ && !event->text().isEmpty() && event->text().front().isDigit()) fill();
+        if (!event->text().isEmpty() && event->text().front().isDigit()) {
+            if (empty_) fill();
+            // The toolkit ignores a digit over all the sections together: it begins the first one.
+            if (all) this->setSelectedSection(this->sectionAt(0));
+        }
         Edit::keyPressEvent(event);
     }
 

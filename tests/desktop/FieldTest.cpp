@@ -193,6 +193,16 @@ TEST_F(Field, TimeHasItsSeconds) {
     EXPECT_EQ(timeText(*at("dxDateTime").time()), "14:05:01");
 }
 
+TEST_F(Field, DigitsTypedOverTheWholeTimeReplaceIt) {
+    open();
+    press("optIntervall(1)");
+    auto& time = shownBy<TimeEdit>("dxDateTime");
+    time.setFocus();
+    QTest::keyClick(&time, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(&time, "183000");
+    EXPECT_EQ(timeText(*at("dxDateTime").time()), "18:30:00");
+}
+
 TEST_F(Field, PasswordIsHiddenUntilItsButtonShowsIt) {
     open();
     press("optAction(3)");
