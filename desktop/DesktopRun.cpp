@@ -8,6 +8,7 @@
 #include <stdexcept>
 
 #include "desktop/FormWindow.h"
+#include "desktop/Icons.h"
 #include "desktop/Text.h"
 
 namespace kestedit {
@@ -41,6 +42,7 @@ class DesktopRun::OwnApplication {
     OwnApplication() : application_(count_, arguments_) {
         QApplication::setApplicationName(QStringLiteral("kestedit"));
         QGuiApplication::setDesktopFileName(QStringLiteral("kestedit"));
+        QApplication::setWindowIcon(programIcon());  // a question may come before the window
         if (translator_.load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"),
                              QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
             QApplication::installTranslator(&translator_);
