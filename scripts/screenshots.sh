@@ -48,7 +48,7 @@ makeJob english/sync sync
 makeJob english/monitor monitor
 makeJob german/compress compress "${selection[@]}" \
     'type dxName "Dokumente, gepackt"' \
-    'type dxComment "Das Kennwort steht auch in der Jobdatei. Wer sie lesen darf, kann es lesen."' \
+    'type dxComment "Das Passwort steht auch in der Jobdatei. Wer sie lesen darf, kann es lesen."' \
     'type dxSource /srv/dokumente' 'type dxDest /srv/archiv' \
     'type dxFolderMatch "alt*"' 'type dxFileName "bericht*"'
 makeJob german/sync sync 'type dxName "Laptop und Server"' \
