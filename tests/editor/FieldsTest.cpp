@@ -76,20 +76,20 @@ TEST_F(TextFilters, DropWhatTheFieldDoesNotTake) {
 }
 
 TEST_F(TextFilters, RegularExpressionsAreFreeAndForgetWhatWasDropped) {
+    openFilters();
     for (const auto& [field, box] : {std::pair{"dxFileName", "chkRegExFile"}, {"dxFolderMatch", "chkRegExFolder"}}) {
-        openFilters();
         type(field, "a|b");
         check(box, 2);
         EXPECT_NE(flags(), "") << "grey is not set";
         check(box);
         EXPECT_EQ(flags(), "");
-        type(field, "^\"(a|b)\\.é$");
+        type(field, "^(a|b)");
         check(box, 0);
-        EXPECT_EQ(at(field).text(), "^\"(a|b)\\.é$") << "filtered by the next edit only";
-        EXPECT_EQ(flags(), "");
-        type(field, "^\"(a|b)\\.é$x");
-        EXPECT_EQ(at(field).text(), "(ab).é$x");
-        EXPECT_NE(flags(), "");
+        EXPECT_EQ(at(field).text() + flags(), "^(a|b)") << "filtered by the next edit only";
+        type(field, "^(a|b)x");
+        EXPECT_EQ(at(field).text(), "(ab)x");
+        type(field, "");
+        check(box);
     }
 }
 
@@ -235,7 +235,7 @@ TEST_F(NewFolder, ExistingFolderIsReportedByField) {
 
 TEST_F(NewFolder, ButtonNeedsTwoCharacters) {
     openFields();
-    prompts.newFolder = [&](dlgNewFolder& dialog) {
+    prompts.newFolder = [](dlgNewFolder& dialog) {
         for (const auto& [name, enabled] : {std::pair{"ä", false}, {"äb", true}, {"a", false}}) {
             dialog.onTextTyped(dialog.dxTextEdit1, name);
             EXPECT_EQ(dialog.cmdCreate.Enabled, enabled) << name;
@@ -244,8 +244,7 @@ TEST_F(NewFolder, ButtonNeedsTwoCharacters) {
         dialog.onCloseBox();
     };
     button("dxDest", 1);
-    EXPECT_EQ(form().dxDest.text(), jobs.string());
-    EXPECT_EQ(jobNames(), "");
+    EXPECT_EQ(form().dxDest.text() + jobNames(), jobs.string());
 }
 
 TEST_F(NewFolder, ColourComesFromTheUsersSettings) {

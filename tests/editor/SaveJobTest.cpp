@@ -9,10 +9,6 @@ using test::dumpOf;
 namespace fs = std::filesystem;
 
 struct SaveJob : test::EditorTest {
-    const std::string overwriteNew =
-        "Ein Auftrag mit diesem Namen existiert schon!\r\n"
-        "Möchten Sie den existierenden Auftrag überschreiben?";
-
     [[nodiscard]] std::string nameIn(std::string_view job) {
         return ini.read(jobFile(job), "Job", "Name", "(none)", 256);
     }
@@ -48,19 +44,28 @@ TEST_F(SaveJob, NewJobGoesToAFileOfItsName) {
     EXPECT_EQ(values.Mode, "New");
 }
 
-TEST_F(SaveJob, NewJobAsksBeforeItTakesTheFileOfAnother) {
-    putJob("a", "[Job]\nName=other\nMine=1\n");
-    create();
-    type("dxName", "a");
-    EXPECT_EQ(save({Answer::no}), overwriteNew);
-    EXPECT_EQ(prompts.messages.back().title, "Meldung");
-    EXPECT_EQ(prompts.messages.back().buttons, Buttons::yesNo);
-    EXPECT_TRUE(form().isOpen());
-    EXPECT_EQ(jobBytes("a"), "[Job]\nName=other\nMine=1\n");
-    save({Answer::yes});
-    EXPECT_FALSE(form().isOpen());
-    EXPECT_EQ(nameIn("a"), "a");
-    EXPECT_EQ(jobBytes("a").find("Mine"), std::string::npos) << "the file is a new one";
+TEST_F(SaveJob, AsksBeforeItTakesTheFileOfAnother) {
+    const std::string mine = "[Job]\nName=b\nMine=1\n";
+    for (const bool isNew : {true, false}) {
+        putJob("a", "[Job]\nName=a\n");
+        putJob("b", mine);
+        if (!isNew) values.Language.clear();  // the built-in texts word the two questions differently
+        isNew ? create() : edit("a");
+        type("dxName", "b");
+        EXPECT_EQ(save({Answer::no}), "Ein Auftrag mit diesem Namen existiert schon!\r\nMöchten Sie " +
+                                          std::string(isNew ? "den existierenden" : "diesen") +
+                                          " Auftrag überschreiben?");
+        EXPECT_EQ(prompts.messages.back().buttons, Buttons::yesNo);
+        EXPECT_TRUE(form().isOpen());
+        EXPECT_EQ(jobBytes("b"), mine);
+        EXPECT_EQ(values.Mode, isNew ? "New" : "Edit");
+        save({Answer::yes});
+        EXPECT_FALSE(form().isOpen());
+        EXPECT_EQ(jobNames(), "a.job b.job ") << "the job that was opened stays";
+        EXPECT_EQ(nameIn("b"), "b");
+        EXPECT_EQ(jobBytes("b").find("Mine"), std::string::npos) << "the file is a new one";
+        EXPECT_EQ(values.Mode, "New");
+    }
 }
 
 TEST_F(SaveJob, EmptyNameOfAnEditedJob) {
@@ -104,24 +109,6 @@ TEST_F(SaveJob, EditedJobKeepsItsFileUntilItIsRenamed) {
     EXPECT_EQ(nameIn("b"), "b");
     EXPECT_EQ(values.Mode, "New");
     EXPECT_EQ(values.JobFile, jobFile("b"));
-}
-
-TEST_F(SaveJob, EditedJobAsksBeforeItTakesTheFileOfAnother) {
-    putJob("a", "[Job]\nName=a\n");
-    putJob("b", "[Job]\nName=b\nMine=1\n");
-    values.Language.clear();
-    edit("a");
-    type("dxName", "b");
-    EXPECT_EQ(save({Answer::no}),
-              "Ein Auftrag mit diesem Namen existiert schon!\r\n"
-              "Möchten Sie diesen Auftrag überschreiben?");
-    EXPECT_TRUE(form().isOpen());
-    EXPECT_EQ(jobBytes("b"), "[Job]\nName=b\nMine=1\n");
-    EXPECT_EQ(values.Mode, "Edit");
-    save({Answer::yes});
-    EXPECT_EQ(jobNames(), "a.job b.job ") << "the job that was opened stays";
-    EXPECT_EQ(jobBytes("b").find("Mine"), std::string::npos);
-    EXPECT_EQ(values.Mode, "New");
 }
 
 TEST_F(SaveJob, AnyOtherModeChecksAndClosesWithoutWriting) {

@@ -79,18 +79,22 @@ TEST_F(Start, NewJobDefaults) {
     EXPECT_EQ(form().FocusedControl, &form().dxName);
 }
 
-TEST_F(Start, CaptionTellsTheModeAndNothingElseHasDefaults) {
+TEST_F(Start, OnlyANewJobHasDefaults) {
     EXPECT_EQ(create().Caption, "kestEdit - Neuer Auftrag");
-    putJob("a", "[Other]\nName=a\nAction=5\n");
-    EXPECT_EQ(edit("a").Caption, "kestEdit - Auftrag bearbeiten");
-    for (const std::string mode : {"a", "missing", "neither new nor edit"}) {
-        mode.size() < 9 ? edit(mode) : show("new", 4);
+    const auto expectDesignTimeValues = [this](std::string_view caption) {
+        EXPECT_EQ(form().Caption, caption);
         EXPECT_EQ(form().dxName.text(), "");
         EXPECT_EQ(form().optAction.selected(), std::nullopt);
         EXPECT_EQ(form().dxHours.number(), 1);
         EXPECT_EQ(form().dxDate.date(), std::nullopt);
+    };
+    putJob("unreadable", "[Other]\nName=a\nAction=5\n");
+    for (const auto job : {"unreadable", "missing"}) {
+        edit(job);
+        expectDesignTimeValues("kestEdit - Auftrag bearbeiten");
     }
-    EXPECT_EQ(form().Caption, "");
+    show("new", 4);
+    expectDesignTimeValues("");
 }
 
 TEST_F(Start, FindingsAppearWithTheTimerAndFollowTheirChoices) {

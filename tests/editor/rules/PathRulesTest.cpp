@@ -1,7 +1,6 @@
 #include <chrono>
 #include <gtest/gtest.h>
 #include <map>
-#include <ostream>
 #include <vector>
 
 #include "editor/rules/paths.h"
@@ -9,10 +8,6 @@
 #include "tests/platform/TemporaryFolder.h"
 
 namespace kestedit {
-
-void PrintTo(std::optional<PathFinding> finding, std::ostream* out) {
-    *out << (finding ? "finding " + std::to_string(static_cast<int>(*finding)) : "no finding");
-}
 
 namespace {
 
