@@ -17,7 +17,6 @@ TEST_F(ProgramTest, WrongUsageIsOneLineAndDoesNothing) {
         {"script new a.script b.script", "The following argument was not expected: b.script"},
         {"edit", "FILE is required"},
         {"new --view 32768", "--view: \"32768\" is no whole number that fits"},
-        {"new --view 0x9", "--view: \"0x9\" is no whole number that fits"},
         {"new --now 2026-02-29T00:00:00", "--now: \"2026-02-29T00:00:00\" is no moment such as 2026-11-21T14:05:00"},
         {"new --date-format dd.MM", "--date-format: date format \"dd.MM\": day, month or year is missing"},
         {"ini get a.ini S k --code-page 99", "--code-page: code page 99 is not known to this system"},

@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -21,14 +20,6 @@ TEST(BuiltInTexts, FillThePickListsAndEndBeforeThePathPage) {
               (std::vector<std::string>{"Aufsteigende Zahl", "Datum und Uhrzeit", "Globale Benutzer ID"}));
     EXPECT_EQ(form.dxPickExistSelecter.Items.size(), replaceIfCount);
     EXPECT_EQ(form.dxPickExistSelecter.text(), "die Quelldatei neuer ist als die existierende Datei");
-}
-
-TEST(BuiltInTexts, NeedRoomForAllOfThemAndElseWriteNothing) {
-    std::vector<std::string> catalogue(builtInTexts);
-    std::vector<std::string> replaceIf(replaceIfCount);
-    EXPECT_THROW(FillBuiltInTexts(std::span{catalogue}.first(builtInTexts - 1), replaceIf), std::out_of_range);
-    EXPECT_THROW(FillBuiltInTexts(catalogue, std::span{replaceIf}.first(replaceIfCount - 1)), std::out_of_range);
-    EXPECT_EQ(catalogue, std::vector<std::string>(builtInTexts));
 }
 
 }  // namespace

@@ -59,6 +59,13 @@ TEST_F(LoadTest, TheActionIsLoadedApart) {
     EXPECT_EQ(other.dxName.text(), "");
 }
 
+TEST_F(LoadTest, ACommentIsCutAndItsCaretsBreakLines) {
+    put("[Job]\nComment=a^b" + std::string(300, 'c') + "\n");
+    FilledForm form;
+    load(form);
+    EXPECT_EQ(form.dxComment.text(), "a\r\nb" + std::string(252, 'c'));
+}
+
 TEST_F(LoadTest, ValuesOutsideTheirRangeStandForTheFirst) {
     put("[Job]\nSubFolder=7\nRunOnce=-1\nExist=5\nAction=-2\nPickRenamer=4\nIntWeekDay=0\nMonWatch=5\nEFSelect=7\n"
         "ZipGrade=9\nMonDelay=\nExecMaxSec=1e3\nFileAgeDiff=99999999999999999999\nInterval=4565\nIntervalTime=noon\n");
@@ -76,26 +83,6 @@ TEST_F(LoadTest, ValuesOutsideTheirRangeStandForTheFirst) {
     EXPECT_EQ(form.dxExecMaxSec.number(), 60);
     EXPECT_EQ(form.dxAge.number(), 1);
     EXPECT_EQ(form.dxDateTime.EditValue, Value{"noon"});
-}
-
-TEST_F(LoadTest, NonsenseInEveryKeyIsSurvivedAndCanBeSaved) {
-    for (const std::string& nonsense :
-         {std::string{"-9223372036854775808"}, std::string{"9223372036854775807"}, std::string{"\x81\xff=["},
-          std::string(10000, '^'), std::string{"31.12.9999"}}) {
-        std::string job = "[Job]\n";
-        for (const JobRow& row : jobFormat())
-            job.append(row.key).append("=").append(nonsense).append("\n");
-        put(job);
-        FilledForm form;
-        load(form);
-        for (const EditorControl* control : form.controls())
-            EXPECT_TRUE(control->State >= 0 && control->State <= 2);
-        for (const auto* date : {&form.dxDateFrom, &form.dxDateTo, &form.dxFileDate, &form.dxDate})
-            EXPECT_TRUE(date->date() && date->date()->ok()) << date->Name();
-        EXPECT_TRUE(form.optExist.selected());
-        save(form);
-        EXPECT_NE(bytesOf(file).find("\nExecPath=" + nonsense + "\n"), std::string::npos);
-    }
 }
 
 TEST_F(LoadTest, ANewJobStartsWithTheFirstChoicesAndThePresent) {

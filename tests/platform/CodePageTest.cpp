@@ -52,15 +52,5 @@ TEST(CodePage, refusesPagesThatAreNotOfOneByteEach) {
     }
 }
 
-TEST(Text, takesAndAppendsTheSameCharacters) {
-    for (const char32_t codePoint : {U'\0', U'\x7F', U'\x80', U'\u07FF', U'\u0800', U'\uFFFF', U'\U00010000'}) {
-        std::string text;
-        appendCharacter(text, codePoint);
-        std::string_view rest = text;
-        EXPECT_EQ(takeCharacter(rest).codePoint, codePoint);
-        EXPECT_TRUE(rest.empty());
-    }
-}
-
 }  // namespace
 }  // namespace kestedit::test

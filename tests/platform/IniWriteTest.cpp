@@ -95,8 +95,6 @@ TEST_F(IniWrite, aLostWriteIsRecordedAndLeavesNothing) {
     EXPECT_EQ(store_.write(file, "S", "k", "2"), std::errc::permission_denied);
     EXPECT_EQ(store_.lastError(), std::errc::permission_denied);
     EXPECT_EQ(bytesOf(file), "[S]\nk=1\n");
-    EXPECT_EQ(store_.write(folder_.path() / "none" / "a.ini", "S", "k", "2"), std::errc::no_such_file_or_directory);
-    EXPECT_EQ(store_.write(folder_.path(), "S", "k", "2"), std::errc::is_a_directory);
     EXPECT_EQ(folder_.names(), std::vector<std::string>{"readonly.ini"});
     EXPECT_FALSE(store_.write(folder_.path() / "new.ini", "S", "k", "2"));
     EXPECT_FALSE(store_.lastError());

@@ -100,23 +100,6 @@ TEST_F(StagedFiles, linksStayAndTheFileBehindThemIsReplaced) {
     EXPECT_THROW(StagedFile(folder_.path() / "loop", "", keep), std::system_error);
 }
 
-TEST_F(StagedFiles, refusesWhatIsNoFileAndLeavesNothing) {
-    fs::create_directory(target_);
-    const fs::path fifo = folder_.path() / "fifo";
-    ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
-    for (const fs::path& target : {target_, fifo, folder_.path() / "none" / "job"})
-        EXPECT_THROW(StagedFile(target, "new", makeNormal), std::system_error) << target;
-    EXPECT_EQ(folder_.names(), (Names{"fifo", "job"}));
-}
-
-TEST_F(StagedFiles, aFailedRenameLeavesTheOldFile) {
-    StagedFile staged(target_, "new", keep);
-    fs::create_directory(target_);
-    folder_.file("job/inside", "");
-    EXPECT_THROW(staged.commit(), std::system_error);
-    EXPECT_TRUE(fs::exists(target_ / "inside"));
-}
-
 TEST_F(StagedFiles, replacingLeavesTheTargetAlone) {
     const fs::path former = folder_.path() / "former";
     const auto replace = [&](const fs::path& replaced) {
