@@ -154,6 +154,15 @@ bool runsIn(const PassRule& row, int viewLevel) {
     return viewLevel == 4 || (viewLevel == 15 && row.view15) || (viewLevel == 23 && row.view23);
 }
 
+// Two pages change with view and action, and their headings with the titles of their nodes: the notes stand alone in
+// view 23, and synchronising takes the destination's page.
+void HeadPageAsNode(FormModel& form, int position) {
+    if (position < 0 || position >= static_cast<int>(form.Navigation.Nodes.size())) return;
+    const std::string& title = form.Navigation.Nodes[static_cast<std::size_t>(position)].Title;
+    if (nodeOfPage(form, Page::comment) == position) form.lblNamePath.Caption = title;
+    if (nodeOfPage(form, Page::existing) == position) form.lblKeepFolders.Caption = title;
+}
+
 }  // namespace
 
 void RefreshPageStates(FormModel& form, std::string_view what, int viewLevel, int page) {
@@ -170,10 +179,7 @@ void RefreshPageStates(FormModel& form, std::string_view what, int viewLevel, in
 
 void SetNodeIFace(FormModel& form, int position, int viewLevel, std::string_view text) {
     RefreshPageStates(form, text, viewLevel, position);
-    // The page with the notes is headed as its node is: in view 23 it holds the notes alone.
-    if (nodeOfPage(form, Page::comment) == position) {
-        form.lblNamePath.Caption = form.Navigation.Nodes.at(static_cast<std::size_t>(position)).Title;
-    }
+    HeadPageAsNode(form, position);
     // View 9 has no rule pass; its last page follows the action all the same.
     if (viewLevel == 9) ShowDestinationFrames(form);
 }
