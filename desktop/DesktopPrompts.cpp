@@ -22,7 +22,8 @@ struct Choice {
     Answer answer;
 };
 
-// The last of each list is what Escape stands for, where there is a choice at all.
+// The last of each list is what Escape and a hasty Return stand for, where there is a choice at all: nothing is lost by
+// it.
 constexpr std::array okChoices{Choice{QMessageBox::Ok, Answer::ok}};
 constexpr std::array yesNoChoices{Choice{QMessageBox::Yes, Answer::yes}, Choice{QMessageBox::No, Answer::no}};
 constexpr std::array retryChoices{Choice{QMessageBox::Retry, Answer::retry},
@@ -112,6 +113,7 @@ Answer DesktopPrompts::showMessage(const MessageBox& box) {
         button->setIcon({});  // themes have pictures for some of the answers only
     }
     message.setEscapeButton(choices.back().button);
+    message.setDefaultButton(choices.back().button);
     message.exec();
     for (const Choice& choice : choices) {
         if (message.standardButton(message.clickedButton()) == choice.button) return choice.answer;
