@@ -10,5 +10,5 @@ install(FILES kestedit.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages CO
 
 # Without the window there is nothing that a double click on a job could open.
 if(TARGET kestEdit_desktop)
-  install(FILES kestedit.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT kestedit)
+  install(FILES kestedit.desktop kestedit-open.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT kestedit)
 endif()

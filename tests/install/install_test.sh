@@ -38,9 +38,10 @@ for file in bin/kestedit share/man/man1/kestedit.1.gz share/bash-completion/comp
     [[ -s $prefix/$file ]] || fail "$file is missing"
 done
 if [[ $desktop ]]; then
-    entry=$prefix/share/applications/kestedit.desktop
-    [[ -s $entry ]] || fail "$entry is missing"
-    if command -v desktop-file-validate >/dev/null; then desktop-file-validate "$entry"; fi
+    for entry in "$prefix"/share/applications/{kestedit,kestedit-open}.desktop; do
+        [[ -s $entry ]] || fail "$entry is missing"
+        if command -v desktop-file-validate >/dev/null; then desktop-file-validate "$entry"; fi
+    done
 fi
 expect "the name in the shared library" libkestEdit.so.1 \
     "$(objdump -p "$library/libkestEdit.so" | awk '$1 == "SONAME" { print $2 }')"
