@@ -34,17 +34,6 @@ TEST_F(LoadTest, AbsentKeysLeaveWhatTheControlsAccept) {
     EXPECT_FALSE(form.DateFormatChanged);
 }
 
-TEST_F(LoadTest, AnUnreadableDateIsReplacedAndReported) {
-    put("[Job]\nDateFrom=11/20/2025\nDateTo=31.02.2026\nFileDateDate=05.06.2026\nIntervalDate=\n");
-    FilledForm form;
-    load(form);
-    EXPECT_TRUE(form.DateFormatChanged);
-    EXPECT_EQ(form.dxDateFrom.date(), dateOf(2026, 11, 20));
-    EXPECT_EQ(form.dxDateTo.date(), now.date);
-    EXPECT_EQ(form.dxFileDate.date(), dateOf(2026, 6, 5));
-    EXPECT_EQ(form.dxDate.date(), now.date);
-}
-
 TEST_F(LoadTest, TheActionIsLoadedApart) {
     put("[Job]\nAction=3\nName=Nightly\nZipDelDeComp=1\nZipDelDeCompBin=1\n");
     FilledForm form;
@@ -83,18 +72,6 @@ TEST_F(LoadTest, ValuesOutsideTheirRangeStandForTheFirst) {
     EXPECT_EQ(form.dxExecMaxSec.number(), 60);
     EXPECT_EQ(form.dxAge.number(), 1);
     EXPECT_EQ(form.dxDateTime.EditValue, Value{"noon"});
-}
-
-TEST_F(LoadTest, ANewJobStartsWithTheFirstChoicesAndThePresent) {
-    FilledForm form;
-    SetNewJobDefaults(form, now);
-    for (const EditorControl* control : form.controls()) {
-        const bool isOption = control->Kind == ControlKind::option;
-        EXPECT_TRUE(!isOption || control->isSet() == (control->Member == 0)) << control->Name();
-    }
-    EXPECT_TRUE(form.chkZipIntStruct.isSet() && form.chkDestKeepZStruct.isSet());
-    EXPECT_EQ(form.dxFileDate.date(), now.date);
-    EXPECT_EQ(form.dxDateTime.time(), now.time);
 }
 
 }  // namespace
