@@ -181,8 +181,9 @@ std::string text(const Work& work, double figure) {
     if (figure < 0) return "-";
     std::array<char, 32> buffer{};
     const bool megabytes = work.measure == Measure::megabytes;
-    const double shown = megabytes ? figure : isLarge(work) ? figure / 1000 : figure;
-    const char* const unit = megabytes ? "MB" : isLarge(work) ? "ms" : "us";
+    const bool milliseconds = !megabytes && figure >= 1000;
+    const double shown = milliseconds ? figure / 1000 : figure;
+    const char* const unit = megabytes ? "MB" : milliseconds ? "ms" : "us";
     std::snprintf(buffer.data(), buffer.size(), "%.3g %s", shown, unit);
     return buffer.data();
 }
