@@ -33,6 +33,8 @@ const std::vector<Walk> walks{
      {{"", "", ""}, {"chkSubFolder", "ac", "8"}, {"optFolderMatch(1)", "abc", "8"}, {"chkSubFolder=2", "", ""},
       {"optAction(1)", "e", ""}, {"chkSubFolder", "abcde", "8"}, {"optAction(3)", "ab"}, {"optAction(5)", "ab"},
       {"optAction(0)", "abc", "8"}}},
+    {"an inactive job, on its page", 4, {}, {{"", "", "0"}, {"chkInactive", "", "1"}, {"chkInactive=2", "", "0"}}},
+    {"an inactive job, on the page of the paths", 2, {}, {{"", "", "0"}, {"chkInactive", "", ""}}},
     {"files", 6,
      {{'a', "lblFileName dxFileName chkRegExFile"}},
      {{"", "", ""}, {"optFileMatch(1)", "a", "8"}, {"optFileMatch(2)", "a", "8"}, {"optFileMatch(0)", "", ""}}},
