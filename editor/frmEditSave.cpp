@@ -135,6 +135,9 @@ void frmEdit::saveEdited(const std::string& name) {
     if (platform_.files.FileExists(file)) {
         if (!confirmOverwrite("Möchten Sie diesen Auftrag überschreiben?")) return;
         jobs_.write(file, SaveValues(*this, platform_.dates, platform_.clock.now()), JobStore::Write::create);
+    } else if (hasInvalidNameChar(LoadedName)) {
+        // No save gave the old job this name, and it could lead to a file elsewhere: that one stays.
+        jobs_.write(file, SaveValues(*this, platform_.dates, platform_.clock.now()), JobStore::Write::create);
     } else {
         jobs_.rename(jobPath(LoadedName), file, SaveValues(*this, platform_.dates, platform_.clock.now()));
     }

@@ -111,6 +111,16 @@ TEST_F(SaveJob, EditedJobKeepsItsFileUntilItIsRenamed) {
     EXPECT_EQ(values.JobFile, jobFile("b"));
 }
 
+TEST_F(SaveJob, RenamingReachesNoFileElsewhere) {
+    putJob("a", "[Job]\nName=../a\n");
+    std::filesystem::copy(jobFile("a"), jobFile("../a"));
+    edit("a");
+    type("dxName", "b");
+    EXPECT_EQ(save(), "");
+    EXPECT_EQ(jobNames(), "a.job b.job ");
+    EXPECT_TRUE(std::filesystem::exists(jobFile("../a")));
+}
+
 TEST_F(SaveJob, AnyOtherModeChecksAndClosesWithoutWriting) {
     show("new", 4);
     type("dxName", "a?");
