@@ -143,6 +143,14 @@ TEST_F(ScriptTest, BoxesAndChoosersTakeTheirOwnKindOfAnswer) {
         EXPECT_EQ(script("new", "type dxSource .\n"s + lines).err, "kestedit: home/script:"s + reason);
 }
 
+TEST_F(ScriptTest, TextsOfTheProgramStandInTheirPageWhateverTheJobsHave) {
+    environment = "LANG=de_DE.UTF-8 LC_ALL=de_DE.UTF-8";
+    const auto result =
+        script("--code-page 65001 new", "print frmEdit.TextCatalogue(40)\ntype dxName Łódź\nclick cmdSave\n");
+    EXPECT_EQ(result.out, "frmEdit.TextCatalogue(40) = \"Überwachung\"\nevent SearchJobs\n");
+    EXPECT_NE(test::bytesOf(folder.path() / "Łódź.job").find("Name=Łódź"), std::string::npos);
+}
+
 TEST_F(ScriptTest, EventsGoToTheDialogInFront) {
     const std::string open = "type dxSource .\nbutton dxSource 1\n";
     const auto created =
