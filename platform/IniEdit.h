@@ -3,8 +3,8 @@
 
 #include <cstddef>
 #include <memory>
-#include <stdexcept>
 #include <span>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <system_error>
