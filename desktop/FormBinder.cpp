@@ -6,7 +6,6 @@
 #include <QMouseEvent>
 #include <QRadioButton>
 #include <algorithm>
-#include <ranges>
 #include <set>
 
 #include "desktop/AccessibleNames.h"
@@ -36,9 +35,8 @@ const QWidget& pageOf(const QWidget& widget) {
 void nameForReaders(const Binding& binding) {
     const QString name = accessibleNameOf(binding.widget(), pageOf(binding.widget()));
     const auto parts = binding.focusWidgets();
-    parts.front()->setAccessibleName(name);
-    for (QWidget* part : parts | std::views::drop(1))
-        part->setAccessibleName(name + QLatin1String(": ") + part->toolTip());
+    for (QWidget* part : parts)
+        part->setAccessibleName(part == parts.front() ? name : name + QLatin1String(": ") + part->toolTip());
 }
 
 }  // namespace

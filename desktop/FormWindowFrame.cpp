@@ -9,7 +9,6 @@
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
-#include <ranges>
 
 #include "desktop/FormWindow.h"
 #include "desktop/pages/Pages.h"
@@ -111,8 +110,8 @@ PageArea* FormWindow::makePage(std::string_view frame) {
 
 // A view may move a control to a page other than that of its .ui file: it goes to the place kept for it there.
 void FormWindow::adopt(const EditorControl& frame, QWidget& page) {
-    const auto at = [&](const EditorControl* control) { return control->Container == &frame; };
-    for (const EditorControl* control : form_.controls() | std::views::filter(at)) {
+    for (const EditorControl* control : form_.controls()) {
+        if (control->Container != &frame) continue;
         const auto forms = pageForms();
         for (auto home = forms.begin(); !binder_.bindingOf(*control) && home != forms.end(); ++home) {
             if (!pages_.contains(home->frame)) makePage(home->frame);

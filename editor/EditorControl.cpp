@@ -87,8 +87,8 @@ std::optional<int> EditorControl::itemIndex() const {
 std::size_t ControlRegistry::firstOf(std::string_view base) const {
     const auto baseAt = [this](std::uint16_t position) { return controls_[position]->Base; };
     if (firstsByName_.empty()) {
-        for (std::uint16_t position = 0; position < controls_.size(); ++position) {
-            if (controls_[position]->Member <= 0) firstsByName_.push_back(position);
+        for (std::size_t position = 0; position < controls_.size(); ++position) {
+            if (controls_[position]->Member <= 0) firstsByName_.push_back(static_cast<std::uint16_t>(position));
         }
         std::ranges::sort(firstsByName_, {}, baseAt);
     }

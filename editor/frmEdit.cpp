@@ -118,8 +118,8 @@ void frmEdit::loadJob() {
     if (!job) return;
     GetAction(*this, *job);
     ApplyAction(*this);
-    std::string comment = ini_.ReadIniFileValue("Job", "Comment", "", values_.JobFile, textSize);
-    GetValues(*this, *job, std::move(comment), platform_.dates, platform_.clock.now().date);
+    const std::string comment = ini_.ReadIniFileValue("Job", "Comment", "", values_.JobFile, textSize);
+    GetValues(*this, *job, comment, platform_.dates, platform_.clock.now().date);
     ApplyLoadedChoices(*this);
     if (DateFormatChanged) {
         Notice notice = DateChangeNotice(ini_);

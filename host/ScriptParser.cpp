@@ -52,7 +52,7 @@ std::string takeQuoted(std::string_view& rest) {
 }
 
 std::string takePlain(std::string_view& rest) {
-    const std::string word{rest.substr(0, rest.find_first_of(blanks))};
+    std::string word{rest.substr(0, rest.find_first_of(blanks))};
     if (word.find('"') != std::string::npos) {
         throw std::invalid_argument("a quote inside a word: put the whole word in quotes and write \\\"");
     }

@@ -183,7 +183,7 @@ void GetAction(FormModel& form, const JobRecord& job) {
     loadIndex(form, row.control, job.field(row.key).value_or("0"));
 }
 
-void GetValues(FormModel& form, const JobRecord& job, std::string comment, const DateFormat& dates, Date today) {
+void GetValues(FormModel& form, const JobRecord& job, std::string_view comment, const DateFormat& dates, Date today) {
     const Loading load{form, job, dates, today};
     for (const JobRow& row : jobFormat())
         loadRow(load, row);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "editor/FormModel.h"
 #include "persistence/JobStore.h"
@@ -17,7 +18,7 @@ void GetAction(FormModel& form, const JobRecord& job);
 /// Copies every other value. A date that is missing or does not read under `dates` is replaced (DateFrom by yesterday,
 /// the others by today); for one that does not read, DateFormatChanged is set. `comment` is the stored text of that
 /// key.
-void GetValues(FormModel& form, const JobRecord& job, std::string comment, const DateFormat& dates, Date today);
+void GetValues(FormModel& form, const JobRecord& job, std::string_view comment, const DateFormat& dates, Date today);
 
 /// The notice for DateFormatChanged.
 struct Notice {

@@ -74,7 +74,7 @@ class RecentFiles {
     struct Entry {
         std::string path;
         SharedText text;
-        std::uint64_t scope;  // in which the disk was last looked at
+        std::uint64_t scope = 0;  // in which the disk was last looked at
     };
 
     SharedText get(const fs::path& file, bool trustScope) {

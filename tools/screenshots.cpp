@@ -10,7 +10,7 @@
 #include <exception>
 #include <filesystem>
 #include <iostream>
-#include <ranges>
+#include <span>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -75,7 +75,7 @@ QList<QRgb> mainColours(const QImage& picture) {
         ranking.emplace_back(count, colour);
     std::ranges::sort(ranking, std::greater{});
     QList<QRgb> colours;
-    for (const auto& [count, colour] : ranking | std::views::take(256))
+    for (const auto& [count, colour] : std::span(ranking).first(std::min<std::size_t>(ranking.size(), 256)))
         colours.push_back(colour);
     return colours;
 }
@@ -102,8 +102,9 @@ void drawPages(frmEdit& form, const fs::path& folder) {
         window.refresh();
         letEverythingHappen();
         const std::string frame = (form.*nodes[position].frame).Name();
-        const std::string number = (position < 10 ? "0" : "") + std::to_string(position);
-        save(window.grab().toImage(), folder / (number + "-" + frame + ".png"));
+        std::string name = position < 10 ? "0" : "";
+        name.append(std::to_string(position)).append("-").append(frame).append(".png");
+        save(window.grab().toImage(), folder / name);
     }
 }
 
