@@ -91,9 +91,9 @@ void ChoiceButton<Button>::paintEvent(QPaintEvent* event) {
 
     const QRect caption = QStyle::visualRect(this->layoutDirection(), area, area.adjusted(captionOffset(), top, 0, 0));
     const bool underlined = this->style()->styleHint(QStyle::SH_UnderlineShortcut, &option, this) != 0;
-    const int alignment = QStyle::visualAlignment(this->layoutDirection(), Qt::AlignLeft) | Qt::AlignTop;
+    const Qt::Alignment alignment = QStyle::visualAlignment(this->layoutDirection(), Qt::AlignLeft) | Qt::AlignTop;
     const int mnemonic = underlined ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
-    const int flags = alignment | Qt::TextWordWrap | mnemonic;
+    const int flags = static_cast<int>(alignment) | Qt::TextWordWrap | mnemonic;
     painter.drawItemText(caption, flags, this->palette(), this->isEnabled(), this->text(), QPalette::WindowText);
 
     if (option.state & QStyle::State_HasFocus) {
