@@ -71,6 +71,7 @@ QList<QRgb> mainColours(const QImage& picture) {
         for (int x = 0; x < picture.width(); ++x)
             ++counts[picture.pixel(x, y)];
     std::vector<std::pair<int, QRgb>> ranking;
+    ranking.reserve(counts.size());
     for (const auto& [colour, count] : counts)
         ranking.emplace_back(count, colour);
     std::ranges::sort(ranking, std::greater{});
