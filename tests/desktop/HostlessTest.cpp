@@ -6,7 +6,6 @@
 
 #include "component/clsEdit.h"
 #include "desktop/DesktopRun.h"
-#include "desktop/FormWindow.h"
 #include "tests/editor/EditorFixture.h"
 
 namespace kestedit::test {
@@ -16,36 +15,35 @@ class Hostless : public testing::Test, public Surroundings {
   protected:
     void SetUp() override { qputenv("QT_QPA_PLATFORM", "offscreen"); }
 
-    /// Shows the editor once; `act` finds its window in front.
+    /// Shows the editor once and tells what happened; `act` finds its window in front.
     std::string show(const std::function<void(QWidget&)>& act) {
         DesktopRun run;
         Platform desktop{ini, files, clock, dates, run.prompts(), settings};
         clsEdit editor(desktop, run);
         editor.Mode("New");
-        editor.JobDir(jobs.string());
-        editor.JobExtension(".job");
-        editor.INIFile(values.INIFile);
         editor.Language(values.Language);
-        std::string event = "none";
-        editor.SearchJobs = [&] { event = "SearchJobs"; };
+        std::string happened;
+        editor.SearchJobs = [&] { happened += "SearchJobs"; };
         QTimer::singleShot(0, qApp, [&] {
             QWidget* const window = QApplication::activeModalWidget();
             ASSERT_NE(window, nullptr);
             EXPECT_EQ(window->parentWidget(), nullptr);
+            QObject::connect(window, &QObject::destroyed, qApp,
+                             [&] { QTimer::singleShot(0, qApp, [&] { happened = "gone "; }); });
             act(*window);
         });
         editor.Show(4);
         EXPECT_NE(QCoreApplication::instance(), nullptr);
-        return event;
+        return happened;
     }
 };
 
 TEST_F(Hostless, EditorBringsItsOwnApplicationAndTakesItAway) {
     ASSERT_EQ(QCoreApplication::instance(), nullptr);
-    EXPECT_EQ(show([](QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); }), "none");
+    EXPECT_EQ(show([](QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); }), "gone ");
     EXPECT_EQ(QCoreApplication::instance(), nullptr);
-    EXPECT_EQ(show([](QWidget& window) { window.close(); }), "SearchJobs");
-    EXPECT_EQ(show([](QWidget&) { QApplication::closeAllWindows(); }), "SearchJobs");
+    EXPECT_EQ(show([](QWidget& window) { window.close(); }), "gone SearchJobs");
+    EXPECT_EQ(show([](QWidget&) { QApplication::closeAllWindows(); }), "gone SearchJobs");
 }
 
 TEST_F(Hostless, ApplicationWithoutWindowsIsRefused) {
