@@ -1,13 +1,13 @@
 // Typing, stepping and choosing in fields.
+#include <QAbstractButton>
 #include <QCalendarWidget>
 #include <QClipboard>
-#include <QComboBox>
 #include <QContextMenuEvent>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QScrollBar>
+#include <QToolTip>
 
-#include "desktop/bindings/LineText.h"
 #include "desktop/widgets/DateEdit.h"
 #include "desktop/widgets/NoticeLabel.h"
 #include "desktop/widgets/NumberEdit.h"
@@ -29,7 +29,6 @@ TEST_F(Field, FilterKeepsTheCaretBehindTheKeptCharacters) {
     QTest::keyClicks(&line("dxExt"), "_x?y");
     EXPECT_EQ(line("dxExt").text(), "txtxy, log");
     EXPECT_EQ(line("dxExt").cursorPosition(), 5);
-    EXPECT_TRUE(form().InvalidExtChars);
     QApplication::clipboard()->setText("a-b-c");
     line("dxExt").setCursorPosition(0);
     QTest::keyClick(&line("dxExt"), Qt::Key_V, Qt::ControlModifier);
@@ -37,18 +36,10 @@ TEST_F(Field, FilterKeepsTheCaretBehindTheKeptCharacters) {
     EXPECT_EQ(line("dxExt").cursorPosition(), 3);
 }
 
-TEST_F(Field, CaretAmongKeptCharactersOfRepeatedText) {
-    EXPECT_EQ(caretAmongKept("a_a_", 4, "aa"), 2);
-    EXPECT_EQ(caretAmongKept("aa_aa", 3, "aaaa"), 2);
-    EXPECT_EQ(caretAmongKept("__", 2, ""), 0);
-    EXPECT_EQ(caretAmongKept("abc", 2, "abc"), 2);
-}
-
 TEST_F(Field, UndoPassesByWhatTheFilterDropped) {
     open();
     press("optExt(1)");
-    enter("dxExt", "txt");
-    QTest::keyClicks(&line("dxExt"), "_-;");
+    enter("dxExt", "txt_-;");
     QTest::keyClick(&line("dxExt"), Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(line("dxExt").text(), "");
     EXPECT_EQ(at("dxExt").text(), "");
@@ -63,8 +54,6 @@ TEST_F(Field, PatternSaysWhatItMeansAndWhatIsWrongWithIt) {
     auto& label = shownBy<QLabel>("lblFileName");
     const auto& notice = *window().currentPage()->findChild<NoticeLabel*>("dxFileName_notice");
     EXPECT_TRUE(label.text().contains("*, ?"));
-    EXPECT_FALSE(notice.isVisible());
-
     enter("dxFileName", "a*b");
     press("chkRegExFile");
     EXPECT_TRUE(label.text().contains("RegEx"));
@@ -80,16 +69,12 @@ TEST_F(Field, PatternSaysWhatItMeansAndWhatIsWrongWithIt) {
 
 TEST_F(Field, TextThatTheJobCannotHoldIsToldAndNotTaken) {
     open();
-    enter("dxName", "Plan");
-    typeLetters(line("dxName"), "日b");
+    enter("dxName", "Plan日b");
     EXPECT_EQ(line("dxName").text(), "Planb");
     EXPECT_EQ(at("dxName").text(), "Planb");
-    auto& memo = shownBy<QPlainTextEdit>("dxComment");
-    memo.setFocus();
-    QTest::keyClicks(&memo, "one");
-    QTest::keyClick(&memo, Qt::Key_Return);
-    typeLetters(memo, "two日");
-    EXPECT_EQ(memo.toPlainText(), "one\ntwo");
+    EXPECT_FALSE(QToolTip::text().isEmpty());
+    enter("dxComment", "one\ntwo日");
+    EXPECT_EQ(shownBy<QPlainTextEdit>("dxComment").toPlainText(), "one\ntwo");
     EXPECT_EQ(at("dxComment").text(), "one\r\ntwo");
 }
 
@@ -100,7 +85,6 @@ TEST_F(Field, WheelPassesOverFieldsWithoutTheFocus) {
     press("optIntTime(1)");
     const auto before = dumpOf(form());
     QScrollBar& bar = *window().currentPage()->verticalScrollBar();
-    ASSERT_GT(bar.maximum(), 0);
     for (const char* name : {"dxDateTime", "dxIntWeekDay"}) {
         bar.setValue(0);
         list().setFocus();
@@ -109,59 +93,44 @@ TEST_F(Field, WheelPassesOverFieldsWithoutTheFocus) {
         EXPECT_EQ(differences(before, dumpOf(form())), "") << name;
         EXPECT_FALSE(focusOf(name).hasFocus()) << name;
     }
+    QTest::keyClick(&focus("dxIntWeekDay"), Qt::Key_End);
+    EXPECT_EQ(at("dxIntWeekDay").text(), "Sonntag");
     press("optIntervall(0)");
     const std::int64_t hours = at("dxHours").number();
     turnWheel(focusOf("dxHours"));
     EXPECT_EQ(at("dxHours").number(), hours);
-    focusOf("dxHours").setFocus();
-    turnWheel(focusOf("dxHours"));
+    turnWheel(focus("dxHours"));
     EXPECT_NE(at("dxHours").number(), hours);
-}
-
-TEST_F(Field, SpinButtonsCarryIntoTheNextUnit) {
-    open();
-    turnTo("dxMinutes");
-    enter("dxHours", "23") /* typed into the spin field's own line */;
-    enter("dxMinutes", "59");
-    QTest::keyClick(&focusOf("dxMinutes"), Qt::Key_Up);
-    EXPECT_EQ(shownBy<NumberEdit>("dxDays").text(), "1");
-    EXPECT_EQ(shownBy<NumberEdit>("dxHours").text(), "0");
-    EXPECT_EQ(shownBy<NumberEdit>("dxMinutes").text(), "0");
-    EXPECT_EQ(shownBy<QLabel>("lblDays").text(), "Tag");
 }
 
 TEST_F(Field, NumberMayBeEmptyAndLargeAndKeepsItsRange) {
     open();
     press("optSize(1)");
-    EXPECT_EQ(shownBy<NumberEdit>("dxSize").text(), "");
-    QWidget& size = focusOf("dxSize");
-    size.setFocus();
-    QTest::keyClicks(&size, "900000000000x");
+    enter("dxSize", "900000000000x");
     EXPECT_EQ(at("dxSize").number(), 900'000'000'000);
-    QTest::keyClick(&size, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(&size, Qt::Key_Delete);
+    enter("dxSize", "");
     EXPECT_TRUE(at("dxSize").isEmpty());
     press("optIntervall(1)");
     press("optIntTime(2)");
-    QWidget& day = focusOf("dxIntMonthDay");
-    day.setFocus();
-    QTest::keyClick(&day, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClicks(&day, "31");
-    QTest::keyClick(&day, Qt::Key_Up);
+    enter("dxIntMonthDay", "31");
+    QTest::keyClick(&focusOf("dxIntMonthDay"), Qt::Key_Up);
     EXPECT_EQ(shownBy<NumberEdit>("dxIntMonthDay").text(), "31");
     EXPECT_EQ(at("dxIntMonthDay").number(), 31);
 }
 
 TEST_F(Field, DatesFollowTheUsersFormatAndMayBeEmpty) {
+    QLocale::setDefault(QLocale("en_US"));  // whose week begins on Sunday, and whose times have no seconds
     open();
     press("optAge(4)");
     auto& date = shownBy<DateEdit>("dxFileDate");
     EXPECT_EQ(date.text(), "21.11.2026");
-    EXPECT_EQ(date.calendarWidget()->firstDayOfWeek(), QLocale().firstDayOfWeek());
-    date.setFocus();
-    date.setSelectedSection(QDateTimeEdit::DaySection);
-    QTest::keyClick(&date, Qt::Key_Up);
-    EXPECT_EQ(dates.text(*at("dxFileDate").date()), "22.11.2026");
+    EXPECT_EQ(date.calendarWidget()->firstDayOfWeek(), Qt::Sunday);
+    QStringList captions;
+    for (const auto* button : date.calendarWidget()->findChildren<QAbstractButton*>())
+        captions += button->text();
+    EXPECT_TRUE(captions.contains("Heute") && captions.contains("Leeren"));
+    QTest::keyClicks(&focus("dxFileDate"), "28022027");
+    EXPECT_EQ(dates.text(*at("dxFileDate").date()), "28.02.2027");
     date.selectAll();
     QTest::keyClick(&date, Qt::Key_Delete);
     EXPECT_TRUE(at("dxFileDate").isEmpty());
@@ -169,46 +138,20 @@ TEST_F(Field, DatesFollowTheUsersFormatAndMayBeEmpty) {
     QTest::keyClick(&date, Qt::Key_Up);
     EXPECT_TRUE(at("dxFileDate").date().has_value());
     EXPECT_NE(date.text(), "");
-}
 
-TEST_F(Field, CalendarSpeaksTheEditorsLanguage) {
-    open();
-    press("optAge(4)");
-    auto& date = shownBy<DateEdit>("dxFileDate");
-    QStringList captions;
-    for (const auto* button : date.calendarWidget()->findChildren<QAbstractButton*>())
-        captions += button->text();
-    EXPECT_TRUE(captions.contains("Heute"));
-    EXPECT_TRUE(captions.contains("Leeren"));
-}
-
-TEST_F(Field, TimeHasItsSeconds) {
-    open();
     press("optIntervall(1)");
-    auto& time = shownBy<TimeEdit>("dxDateTime");
-    EXPECT_TRUE(time.displayFormat().contains("ss"));
-    time.setFocus();
-    time.setSelectedSection(QDateTimeEdit::SecondSection);
-    QTest::keyClick(&time, Qt::Key_Up);
-    EXPECT_EQ(timeText(*at("dxDateTime").time()), "14:05:01");
-}
-
-TEST_F(Field, DigitsTypedOverTheWholeTimeReplaceIt) {
-    open();
-    press("optIntervall(1)");
-    auto& time = shownBy<TimeEdit>("dxDateTime");
-    time.setFocus();
-    QTest::keyClick(&time, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClicks(&time, "183000");
-    EXPECT_EQ(timeText(*at("dxDateTime").time()), "18:30:00");
+    EXPECT_EQ(shownBy<TimeEdit>("dxDateTime").text(), "2:05:00 PM");
+    QTest::keyClick(&focus("dxDateTime"), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(&focusOf("dxDateTime"), "113015");
+    EXPECT_EQ(timeText(*at("dxDateTime").time()), "23:30:15");
+    QLocale::setDefault(QLocale::system());
 }
 
 TEST_F(Field, PasswordIsHiddenUntilItsButtonShowsIt) {
     open();
     press("optAction(3)");
-    turnTo("dxZipPwd");
-    auto& password = shownBy<PasswordEdit>("dxZipPwd");
     enter("dxZipPwd", "secret");
+    auto& password = shownBy<PasswordEdit>("dxZipPwd");
     EXPECT_EQ(password.line().echoMode(), QLineEdit::Password);
     QTest::mouseClick(password.buttons().front(), Qt::LeftButton);
     EXPECT_EQ(password.line().echoMode(), QLineEdit::Normal);
@@ -217,32 +160,14 @@ TEST_F(Field, PasswordIsHiddenUntilItsButtonShowsIt) {
     EXPECT_EQ(password.line().echoMode(), QLineEdit::Password);
 }
 
-TEST_F(Field, InnerButtonsBrowseAndFillTheField) {
-    open();
-    turnTo("dxSource");
-    prompts.choices = {folder.path().string()};
-    auto& path = shownBy<PathEdit>("dxSource");
-    QTest::mouseClick(path.buttons().front(), Qt::LeftButton);
-    EXPECT_EQ(path.line().text().toStdString(), folder.path().string());
-    EXPECT_EQ(path.toolTip().toStdString(), folder.path().string());
-    EXPECT_FALSE(shownBy<PathEdit>("dxExecPath").newFolderButton());
-}
-
-TEST_F(Field, PathsWithoutTypingAreReadOnlyAndTheirButtonsWork) {
+TEST_F(Field, InnerButtonsFillAPathThatCannotBeTyped) {
     open();
     press("chkEditPaths");
     EXPECT_TRUE(line("dxSource").isReadOnly());
-    EXPECT_TRUE(shownBy<PathEdit>("dxSource").buttons().front()->isEnabled());
-}
-
-TEST_F(Field, ListEntryIsPickedByKey) {
-    open();
-    press("optIntervall(1)");
-    press("optIntTime(1)");
-    QWidget& days = focusOf("dxIntWeekDay");
-    days.setFocus();
-    QTest::keyClick(&days, Qt::Key_End);
-    EXPECT_EQ(at("dxIntWeekDay").text(), "Sonntag");
+    prompts.choices = {folder.path().string()};
+    QTest::mouseClick(shownBy<PathEdit>("dxSource").buttons().front(), Qt::LeftButton);
+    EXPECT_EQ(line("dxSource").text().toStdString(), folder.path().string());
+    EXPECT_FALSE(shownBy<PathEdit>("dxExecPath").newFolderButton());
 }
 
 TEST_F(Field, RightClickOpensNoMenuWhereTheFormSaysSo) {

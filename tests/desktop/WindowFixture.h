@@ -72,20 +72,20 @@ class WindowTest : public EditorTest {
         QTest::mouseClick(&widget, Qt::LeftButton, Qt::NoModifier, QPoint(8, widget.height() / 2));
         settle();
     }
-    /// Puts the caret into an emptied field and types.
-    void enter(std::string_view name, const char* text) {
+    /// Puts the caret into a field on its page.
+    QWidget& focus(std::string_view name) {
         turnTo(name);
-        QWidget& field = focusOf(name);
-        field.setFocus();
+        focusOf(name).setFocus();
+        return focusOf(name);
+    }
+    /// Types into a field in place of what it holds.
+    void enter(std::string_view name, const char* text) {
+        QWidget& field = focus(name);
         QTest::keyClick(&field, Qt::Key_A, Qt::ControlModifier);
         QTest::keyClick(&field, Qt::Key_Delete);
-        typeLetters(field, text);
-    }
-    /// Types letters that need not be on a keyboard.
-    static void typeLetters(QWidget& into, const char* text) {
-        for (const QChar letter : QString::fromUtf8(text)) {
-            QKeyEvent key(QEvent::KeyPress, 0, Qt::NoModifier, QString(letter));
-            QApplication::sendEvent(&into, &key);
+        for (const QChar letter : QString::fromUtf8(text)) {  // which need not be on a keyboard
+            QKeyEvent key(QEvent::KeyPress, letter == u'\n' ? Qt::Key_Return : 0, Qt::NoModifier, QString(letter));
+            QApplication::sendEvent(&field, &key);
         }
     }
     /// Turns the wheel one notch down while the pointer is over the middle of a widget.
