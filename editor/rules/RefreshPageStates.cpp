@@ -1,7 +1,6 @@
 #include "editor/rules/RefreshPageStates.h"
 
 #include <array>
-#include <span>
 
 #include "editor/NodeImages.h"
 #include "editor/modSpinButtons.h"
@@ -30,11 +29,15 @@ struct PassRule {
     bool view23;
 };
 
-/// A rule of one page: the rules of a position run in the order of their rows.
+/// A rule of a page and the position of its node in each view; `none` where the view does not run it. The rules of a
+/// position run in the order of their rows.
 struct PageRule {
-    int position;
     Rule rule;
+    int view4;
+    int view15;
+    int view23;
 };
+constexpr int none = -1;
 
 // clang-format off
 constexpr std::array wholePass{
@@ -63,68 +66,32 @@ constexpr std::array wholePass{
     PassRule{ApplySyncStart,           true,  true},
 };
 
-constexpr std::array completePages{
-    PageRule{ 0, ApplyJobName},
-    PageRule{ 2, ApplyEditPaths},
-    PageRule{ 2, ApplyDestinationPath},
-    PageRule{ 2, RefreshPathTexts},
-    PageRule{ 3, UpdateIntervalUnitLabels},
-    PageRule{ 3, ApplyRunTime},
-    PageRule{ 4, RefreshRunConditionsPage},
-    PageRule{ 5, UpdateFileNameCaption},
-    PageRule{ 6, ApplyFileMatch},
-    PageRule{ 9, UpdateAgeUnitLabels},
-    PageRule{ 9, ApplyAge},
-    PageRule{ 9, ApplyDestFileTimePage},
-    PageRule{10, ApplySourceAttributes},
-    PageRule{10, ApplyDestAttributes},
-    PageRule{11, FillCompressionLevels},
-    PageRule{11, ShowCompressionFrames},
-    PageRule{12, ShowDestinationFrames},
-};
-
-// Positions 3 to 6 show other pages here than their rules belong to, deliberately; the rules do no harm there.
-// Test: RefreshPageStates.View15RunsRulesByPosition.
-constexpr std::array pagesWithoutSchedule{
-    PageRule{ 0, ApplyJobName},
-    PageRule{ 0, ShowCompressionFrames},
-    PageRule{ 2, ApplyEditPaths},
-    PageRule{ 2, ApplyDestinationPath},
-    PageRule{ 2, RefreshPathTexts},
-    PageRule{ 3, UpdateIntervalUnitLabels},
-    PageRule{ 3, ApplyRunTime},
-    PageRule{ 4, RefreshRunConditionsPage},
-    PageRule{ 5, UpdateFileNameCaption},
-    PageRule{ 6, ApplyFileMatch},
-    PageRule{ 7, UpdateAgeUnitLabels},
-    PageRule{ 7, ApplyAge},
-    PageRule{ 7, ApplyDestFileTimePage},
-    PageRule{ 8, ApplySourceAttributes},
-    PageRule{ 8, ApplyDestAttributes},
-    PageRule{ 9, FillCompressionLevels},
-    PageRule{ 9, ShowCompressionFrames},
-    PageRule{10, ShowDestinationFrames},
-};
-
-constexpr std::array smallPages{
-    PageRule{0, ApplyJobName},
-    PageRule{0, ApplyEditPaths},
-    PageRule{0, ApplyDestinationPath},
-    PageRule{0, RefreshPathTexts},
-    PageRule{2, UpdateFileNameCaption},
-    PageRule{3, ApplyFileMatch},
-    PageRule{6, UpdateAgeUnitLabels},
-    PageRule{6, ApplyAge},
-    PageRule{6, ApplyDestFileTimePage},
-    PageRule{7, ApplySourceAttributes},
-    PageRule{7, ApplyDestAttributes},
-    PageRule{8, ShowDestinationFrames},
+// In view 15 the positions 3 to 6 show other pages than those that the rules belong to, deliberately; the rules do no
+// harm there. Test: RefreshPageStates.View15RunsRulesByPosition.
+constexpr std::array pageRules{
+    PageRule{ApplyJobName,              0,    0,    0},
+    PageRule{ShowCompressionFrames,     none, 0,    none},
+    PageRule{ApplyEditPaths,            2,    2,    0},
+    PageRule{ApplyDestinationPath,      2,    2,    0},
+    PageRule{RefreshPathTexts,          2,    2,    0},
+    PageRule{UpdateIntervalUnitLabels,  3,    3,    none},
+    PageRule{ApplyRunTime,              3,    3,    none},
+    PageRule{RefreshRunConditionsPage,  4,    4,    none},
+    PageRule{UpdateFileNameCaption,     5,    5,    2},
+    PageRule{ApplyFileMatch,            6,    6,    3},
+    PageRule{UpdateAgeUnitLabels,       9,    7,    6},
+    PageRule{ApplyAge,                  9,    7,    6},
+    PageRule{ApplyDestFileTimePage,     9,    7,    6},
+    PageRule{ApplySourceAttributes,    10,    8,    7},
+    PageRule{ApplyDestAttributes,      10,    8,    7},
+    PageRule{FillCompressionLevels,    11,    9,    none},
+    PageRule{ShowCompressionFrames,    11,    9,    none},
+    PageRule{ShowDestinationFrames,    12,   10,    8},
 };
 
 // Everything that a choice can change, a row for each page or topic. The action's own rule is not among them: it would
 // choose anew what the job has chosen.
 constexpr Rule choices[] = {
-    ApplyJobName,
     ApplyJobName, ReflectOnlyCompare, ApplyEditPaths, ApplyDestinationPath, RefreshPathTexts,
     UpdateIntervalUnitLabels, ApplyIntervall, ApplyMonitorPath,
     ApplyInactive, ApplyFreeSpace, ApplyExecDo,
@@ -137,16 +104,16 @@ constexpr Rule choices[] = {
 };
 // clang-format on
 
-std::span<const PageRule> pageRules(int viewLevel) {
+int positionIn(const PageRule& row, int viewLevel) {
     switch (viewLevel) {
         case 4:
-            return completePages;
+            return row.view4;
         case 15:
-            return pagesWithoutSchedule;
+            return row.view15;
         case 23:
-            return smallPages;
+            return row.view23;
         default:
-            return {};
+            return none;
     }
 }
 
@@ -172,8 +139,8 @@ void RefreshPageStates(FormModel& form, std::string_view what, int viewLevel, in
         }
         return;
     }
-    for (const PageRule& row : pageRules(viewLevel)) {
-        if (row.position == page) row.rule(form);
+    for (const PageRule& row : pageRules) {
+        if (page != none && positionIn(row, viewLevel) == page) row.rule(form);
     }
 }
 
