@@ -139,9 +139,8 @@ void FormWindow::showHelp() {
         QDesktopServices::openUrl(QUrl::fromLocalFile(toQt(file)));
         return;
     }
-    const modIniHandler texts(form_.platform().ini, form_.values());
-    const std::string text = file.empty() ? windowText(texts, WindowText::noHelp)
-                                          : windowText(texts, WindowText::helpMissing) + "\r\n" + file;
+    const std::string text = file.empty() ? windowText(form_.texts(), WindowText::noHelp)
+                                          : windowText(form_.texts(), WindowText::helpMissing) + "\r\n" + file;
     static_cast<void>(
         form_.platform().prompts.showMessage({form_.values().AppTitle, text, Buttons::ok, MessageIcon::information}));
 }

@@ -42,6 +42,8 @@ class KESTEDIT_EXPORT frmEdit : public FormModel {
     [[nodiscard]] bool isTimerRunning() const { return timerRunning_; }
     [[nodiscard]] const ComponentValues& values() const { return values_; }
     [[nodiscard]] Platform& platform() const { return platform_; }
+    /// Where a driver reads the texts that it shows beside the controls' own.
+    [[nodiscard]] const modIniHandler& texts() const { return ini_; }
 
     // ---- user events
     /// The text of a field is now `text`; one call for each change while typing, deleting or pasting. Refused, with the

@@ -50,7 +50,7 @@ class Binding {
 
   protected:
     [[nodiscard]] EventGate& gate() const { return gate_; }
-    [[nodiscard]] modIniHandler texts() const { return {gate_.form().platform().ini, gate_.form().values()}; }
+    [[nodiscard]] const modIniHandler& texts() const { return gate_.form().texts(); }
 
     /// The content: value, state, entries.
     virtual void showContent() {}
