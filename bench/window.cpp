@@ -17,29 +17,15 @@
 #include <QTimeEdit>
 #include <QTreeWidget>
 #include <benchmark/benchmark.h>
-#include <filesystem>
-#include <functional>
 #include <memory>
-#include <string>
-#include <unistd.h>
 
-#include "component/clsEdit.h"
+#include "bench/Editor.h"
 #include "desktop/FormWindow.h"
-#include "editor/dlgNewFolder.h"
-#include "platform/Platform.h"
 
 namespace {
 
-namespace fs = std::filesystem;
 using namespace kestedit;
-
-class NoPrompts final : public Prompts {
-  public:
-    Answer showMessage(const MessageBox&) override { return Answer::ok; }
-    std::optional<std::string> chooseFolder(const FolderRequest&) override { return std::nullopt; }
-    std::optional<std::string> chooseFile(const FileRequest&) override { return std::nullopt; }
-    void runNewFolder(dlgNewFolder& dialog) override { dialog.onCloseBox(); }
-};
+using bench::Editor;
 
 /// Tells when a window has painted itself.
 class PaintWatch final : public QObject {
@@ -58,53 +44,6 @@ class PaintWatch final : public QObject {
 
   private:
     bool painted_ = false;
-};
-
-/// A driver that does one thing with the loaded form.
-class Driver final : public ModalRun {
-  public:
-    explicit Driver(std::function<void(frmEdit&)> work) : work_(std::move(work)) {}
-    void run(frmEdit& form) override {
-        work_(form);
-        if (form.isOpen()) form.onCloseBox();
-    }
-
-  private:
-    std::function<void(frmEdit&)> work_;
-};
-
-class Bench {
-  public:
-    Bench() : folder_(fs::temp_directory_path() / ("kestedit-window-" + std::to_string(getpid()))) {
-        fs::create_directories(folder_);
-    }
-    ~Bench() {
-        std::error_code ignored;
-        fs::remove_all(folder_, ignored);
-    }
-    Bench(const Bench&) = delete;
-    Bench& operator=(const Bench&) = delete;
-
-    void show(std::function<void(frmEdit&)> work) {
-        Driver driver(std::move(work));
-        clsEdit editor(platform_, driver);
-        editor.Mode("New");
-        editor.JobDir(folder_);
-        editor.JobExtension(".job");
-        editor.INIFile(folder_ / "program.ini");
-        editor.Language(KESTEDIT_LANG_DIR "/german.lng");
-        editor.Show(4);
-    }
-
-  private:
-    fs::path folder_;
-    IniStore ini_;
-    LocalFileSystem files_;
-    SystemClock clock_;
-    DateFormat dates_{"dd.MM.yyyy"};
-    NoPrompts prompts_;
-    UserSettingsFile settings_{folder_ / "user.ini"};
-    Platform platform_{ini_, files_, clock_, dates_, prompts_, settings_};
 };
 
 /// The toolkit's own widget for a control.
@@ -144,8 +83,8 @@ QWidget* plainWidget(const EditorControl& control) {
 }
 
 void plainDialog(benchmark::State& state) {
-    Bench bench;
-    bench.show([&state](frmEdit& form) {
+    Editor editor;
+    editor.show("New", [&state](frmEdit& form) {
         for (auto round : state) {
             QDialog dialog;
             auto* const grid = new QGridLayout(&dialog);
@@ -164,9 +103,9 @@ BENCHMARK(plainDialog)->Unit(benchmark::kMillisecond);
 
 // From the call of Show, so the form's own start-up is a part of it.
 void editorWindow(benchmark::State& state) {
-    Bench bench;
+    Editor editor;
     for (auto round : state) {
-        bench.show([](frmEdit& form) {
+        editor.show("New", [](frmEdit& form) {
             FormWindow window(form);
             const PaintWatch watch(window);
             window.show();
@@ -179,8 +118,8 @@ BENCHMARK(editorWindow)->Unit(benchmark::kMillisecond);
 /// One click on the node at the given position, with its page already made or not.
 void pageTurn(benchmark::State& state) {
     const bool made = state.range(1) != 0;
-    Bench bench;
-    bench.show([&](frmEdit& form) {
+    Editor editor;
+    editor.show("New", [&](frmEdit& form) {
         std::unique_ptr<FormWindow> window;
         for (auto round : state) {
             state.PauseTiming();
