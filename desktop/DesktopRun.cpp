@@ -9,6 +9,7 @@
 
 #include "desktop/FormWindow.h"
 #include "desktop/Icons.h"
+#include "desktop/OutlineStyle.h"
 #include "desktop/Text.h"
 
 namespace kestedit {
@@ -43,6 +44,7 @@ class DesktopRun::OwnApplication {
         QApplication::setApplicationName(QStringLiteral("kestedit"));
         QGuiApplication::setDesktopFileName(QStringLiteral("kestedit"));
         QApplication::setWindowIcon(programIcon());  // a question may come before the window
+        OutlineStyle::improveFusion();
         if (translator_.load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"),
                              QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
             QApplication::installTranslator(&translator_);

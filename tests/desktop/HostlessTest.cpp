@@ -6,6 +6,7 @@
 
 #include "component/clsEdit.h"
 #include "desktop/DesktopRun.h"
+#include "desktop/OutlineStyle.h"
 #include "tests/editor/EditorFixture.h"
 
 namespace kestedit::test {
@@ -42,7 +43,11 @@ TEST_F(Hostless, EditorBringsItsOwnApplicationAndTakesItAway) {
     ASSERT_EQ(QCoreApplication::instance(), nullptr);
     EXPECT_EQ(show([](QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); }), "gone ");
     EXPECT_EQ(QCoreApplication::instance(), nullptr);
-    EXPECT_EQ(show([](QWidget& window) { window.close(); }), "gone SearchJobs");
+    const auto close = [](QWidget& window) {
+        EXPECT_NE(dynamic_cast<OutlineStyle*>(QApplication::style()), nullptr);
+        window.close();
+    };
+    EXPECT_EQ(show(close), "gone SearchJobs");
     EXPECT_EQ(show([](QWidget&) { QApplication::closeAllWindows(); }), "gone SearchJobs");
 }
 

@@ -1,6 +1,8 @@
 // Colours and pictures: the desktop's own, in light and dark, also when it changes its mind.
 #include <QLabel>
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "desktop/Icons.h"
 #include "tests/desktop/WindowFixture.h"
@@ -28,6 +30,24 @@ QPalette darkPalette() {
     return palette;
 }
 
+/// As the high contrast themes of desktops have it: two colours, and one for what is selected.
+QPalette contrastPalette(const QColor& front, const QColor& back, const QColor& selected) {
+    QPalette palette(front, back, front, back, front, front, front, back, back);
+    palette.setColor(QPalette::Highlight, selected);
+    palette.setColor(QPalette::HighlightedText, back);
+    return palette;
+}
+
+/// How far the picture's strongest point stands out from what is behind it.
+double contrast(const QImage& picture, const QColor& background) {
+    double strongest = 1;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            if (const QColor point = picture.pixelColor(x, y); point.alpha() == 255)
+                strongest = std::max(strongest, contrast(point, background));
+    return strongest;
+}
+
 class Look : public WindowTest {
   protected:
     void TearDown() override {
@@ -35,9 +55,6 @@ class Look : public WindowTest {
         QApplication::setPalette(QApplication::style()->standardPalette());
     }
     QImage picture() { return shownBy<QLabel>("Image1").pixmap().toImage(); }
-    double listContrast() {
-        return contrast(list().palette().color(QPalette::Base), list().palette().color(QPalette::Text));
-    }
 };
 
 TEST_F(Look, PicturesFollowTheDesktopWhileOpen) {
@@ -50,12 +67,68 @@ TEST_F(Look, PicturesFollowTheDesktopWhileOpen) {
     settle();
     EXPECT_NE(picture(), light);
     EXPECT_NE(list().topLevelItem(1)->icon(1).pixmap(16).toImage(), lightNode);
-    EXPECT_GE(listContrast(), 7);
     QApplication::setPalette(QApplication::style()->standardPalette());
     settle();
     EXPECT_EQ(picture(), light);
-    EXPECT_GE(listContrast(), 7);
 }
+
+struct Scheme {
+    const char* name;
+    QPalette palette;
+    double text, edge;  ///< contrast that these need
+};
+
+class Schemes : public Look, public testing::WithParamInterface<Scheme> {};
+
+TEST_P(Schemes, EverythingStandsOutAfterAChangeWhileOpen) {
+    const auto& [name, palette, text, edge] = GetParam();
+    open();
+    QApplication::setPalette(palette);
+    settle();
+    for (int node = 0; node < list().topLevelItemCount(); ++node) {
+        clickNode(node);
+        for (const QWidget* widget : window().findChildren<QWidget*>()) {
+            if (!widget->isVisible() || !widget->isEnabled()) continue;
+            for (const auto& [front, back] : {std::pair{QPalette::WindowText, QPalette::Window},
+                                              {QPalette::Text, QPalette::Base},
+                                              {QPalette::ButtonText, QPalette::Button},
+                                              {QPalette::HighlightedText, QPalette::Highlight}})
+                EXPECT_GE(contrast(widget->palette().color(front), widget->palette().color(back)), text)
+                    << name << ": " << widget->objectName().toStdString() << " " << front;
+        }
+        const QIcon mark = list().topLevelItem(node)->icon(1);
+        if (mark.isNull()) continue;
+        EXPECT_GE(contrast(mark.pixmap(16).toImage(), list().palette().color(QPalette::Base)), edge) << name << node;
+        EXPECT_GE(contrast(mark.pixmap(16, QIcon::Selected).toImage(), list().palette().color(QPalette::Highlight)),
+                  edge)
+            << name << node;
+    }
+    EXPECT_GE(contrast(picture(), window().palette().color(QPalette::Window)), edge) << name;
+}
+
+// Nothing in the box, nothing in the field: what is left to be seen is its line.
+TEST_P(Schemes, EmptyBoxesAndFieldsHaveAnEdge) {
+    open();
+    QApplication::setPalette(GetParam().palette);
+    settle();
+    for (const char* name : {"dxName", "dxComment", "cmdSave", "chkPreview", "optAction(1)", "dxHours"}) {
+        if (at(name).Container) turnTo(name);
+        QWidget& widget = binding(name).widget();
+        // Round any other field with the focus the style draws its own line.
+        QWidget& focused = at(name).Kind == ControlKind::memo ? widget : list();
+        focused.setFocus();
+        const bool box = widget.inherits("QCheckBox") || widget.inherits("QRadioButton");
+        const QRect empty = box ? QRect(0, 0, 14, widget.height()) : QRect(0, 0, widget.width(), 2);
+        EXPECT_GE(contrast(widget.grab(empty).toImage(), widget.palette().color(QPalette::Window)), GetParam().edge)
+            << name;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Palettes, Schemes,
+                         testing::Values(Scheme{"dark", darkPalette(), 3.5, 3},
+                                         Scheme{"black", contrastPalette(Qt::white, Qt::black, Qt::yellow), 7, 3},
+                                         Scheme{"white", contrastPalette(Qt::black, Qt::white, Qt::darkBlue), 7, 3}),
+                         [](const auto& scheme) { return std::string{scheme.param.name}; });
 
 TEST_F(Look, ListTakesItsColoursFromTheSettingsAsAPair) {
     std::ofstream(values.INIFile) << "[Global]\r\nRowBgCol=8388608\r\nRowTxtCol=16777215\r\n";  // white on navy

@@ -3,11 +3,13 @@
 #include <QFont>
 #include <gtest/gtest.h>
 
+#include "desktop/OutlineStyle.h"
+
 int main(int count, char** arguments) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     testing::InitGoogleTest(&count, arguments);
     QApplication application(count, arguments);
-    QApplication::setStyle("fusion");
+    QApplication::setStyle(new kestedit::OutlineStyle);
     QApplication::setFont(QFont("DejaVu Sans", 10));
     return RUN_ALL_TESTS();
 }
