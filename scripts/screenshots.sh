@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Draws the window with sample jobs: every page of every view, in both languages, light and dark.
+# Draws the window with sample jobs: every page of every view, in both languages, light, dark and in high contrast.
 #   scripts/screenshots.sh [FOLDER]     into FOLDER/LANGUAGE-PALETTE/VIEW-JOB/NN-page.png  (default: build/screenshots)
 #   scripts/screenshots.sh --manual     and renews the pictures of the manual in docs/pictures
 # With BUILD set to a configured build folder, that one is used in place of build/release.
@@ -57,7 +57,7 @@ makeJob german/monitor monitor 'type dxName "Neue Scans"' \
     'type dxExecParam "--ordner /srv/scans --sprache de"'
 
 for language in english german; do
-    for palette in light dark; do
+    for palette in light dark contrast; do
         for view in 4-compress 4-sync 4-monitor 9-sync 15-compress 23-monitor; do
             QT_LOGGING_RULES="*.warning=false" XDG_RUNTIME_DIR=$jobs "$build/tools/screenshots" \
                 "$jobs/$language/${view#*-}.job" "${view%-*}" "lang/$language.lng" $palette \
@@ -89,6 +89,7 @@ pictures=(
     synchronise light/4-sync/12-fraExisting
     reduced     light/23-monitor/00-fraPath
     dark        dark/4-compress/01-fraMode
+    contrast    contrast/4-compress/01-fraMode
 )
 for language in english german; do
     mkdir -p "docs/pictures/$language"

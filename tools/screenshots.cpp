@@ -1,5 +1,5 @@
 // Draws every page of a view into a folder, without a display: NN-frame.png for the node at position NN.
-//   screenshots JOB VIEW LANGUAGE light|dark FOLDER
+//   screenshots JOB VIEW LANGUAGE light|dark|contrast FOLDER
 // VIEW is a level of the editor, LANGUAGE one of its language files.
 #include <QApplication>
 #include <QFont>
@@ -20,6 +20,7 @@
 
 #include "desktop/DesktopPrompts.h"
 #include "desktop/FormWindow.h"
+#include "desktop/OutlineStyle.h"
 #include "editor/frmEdit.h"
 #include "editor/modCompNodes.h"
 
@@ -52,16 +53,34 @@ struct Wish {
     std::string job;
     std::string view;
     fs::path language;
-    bool dark;
+    std::string palette;
     fs::path folder;
 };
 
-QPalette palette(bool dark) {
-    if (!dark) return QApplication::palette();
+QPalette darkPalette() {
     QPalette palette(QColor(49, 54, 59), QColor(42, 46, 50));
     palette.setColor(QPalette::Base, QColor(27, 30, 32));
     palette.setColor(QPalette::Link, QColor(29, 153, 243));
     return palette;
+}
+
+/// As the high contrast themes of desktops have it: black, white, and one strong colour for what is selected.
+QPalette contrastPalette() {
+    QPalette palette(Qt::white, QColor(50, 50, 50), QColor(160, 160, 160), Qt::black, QColor(130, 130, 130), Qt::white,
+                     Qt::white, Qt::black, Qt::black);
+    palette.setColor(QPalette::Highlight, Qt::yellow);
+    palette.setColor(QPalette::HighlightedText, Qt::black);
+    palette.setColor(QPalette::Link, Qt::yellow);
+    for (const auto text : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, text, Qt::gray);
+    return palette;
+}
+
+QPalette paletteOf(const std::string& name) {
+    if (name == "light") return QApplication::palette();
+    if (name == "dark") return darkPalette();
+    if (name == "contrast") return contrastPalette();
+    throw std::invalid_argument("there is no palette " + name);
 }
 
 /// The 256 colours that cover most of the picture. Text and flat widgets have few, so nothing is lost to the eye.
@@ -142,12 +161,12 @@ int main(int count, char** arguments) try {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(count, arguments);
     const std::vector<std::string> words(arguments + 1, arguments + count);
-    if (words.size() != 5 || (words[3] != "light" && words[3] != "dark"))
-        throw std::invalid_argument("usage: screenshots JOB VIEW LANGUAGE light|dark FOLDER");
-    const Wish wish{words[0], words[1], words[2], words[3] == "dark", words[4]};
-    QApplication::setStyle("fusion");
+    if (words.size() != 5)
+        throw std::invalid_argument("usage: screenshots JOB VIEW LANGUAGE light|dark|contrast FOLDER");
+    const Wish wish{words[0], words[1], words[2], words[3], words[4]};
+    QApplication::setStyle(new OutlineStyle);
     QApplication::setFont(QFont("DejaVu Sans", 10));
-    QApplication::setPalette(palette(wish.dark));
+    QApplication::setPalette(paletteOf(wish.palette));
     QLocale::setDefault(wish.language.stem() == "german" ? QLocale("de_DE") : QLocale("en_GB"));
     draw(wish);
     return 0;
