@@ -26,51 +26,30 @@ struct FilledForm : FormModel {
         dxZipGrade.EditValue = TextCatalogue[8];
     }
 
-    /// Gives every control that a job stores a value that differs from its design-time value.
+    /// Gives every control that a job stores a value that differs from its design-time value, and numbers, dates and
+    /// texts that differ from each other.
     void fill() {
+        using enum ControlKind;
+        int checks = 0;
+        int numbers = 3;
         for (EditorControl* control : controls()) {
-            if (control->Kind == ControlKind::check) control->State = 1;
-            if (control->Kind == ControlKind::text || control->Kind == ControlKind::path)
-                control->EditValue = "the " + control->Name();
-            if (control->Kind == ControlKind::option) control->State = control->Member == 1 ? 1 : 0;
+            const ControlKind kind = control->Kind;
+            if (kind == check) control->State = ++checks % 4 == 0 ? 2 : 1;
+            if (kind == option) control->State = control == group(control->Base).back() ? 1 : 0;
+            if (kind == text || kind == path) control->EditValue = "the " + control->Name();
+            if (kind == number || kind == spin) control->EditValue = std::int64_t{++numbers};
+            if (kind == date) control->EditValue = addDays(dateOf(2026, 1, 1), ++numbers);
+            if (kind == pick) control->EditValue = control->Items.back();
         }
-        for (EditorControl* grey : {&chkAttrHidden[1], &chkAttrReadOnly[2], &chkAttrSystem[0], &chkZipDelDeComp,
-                                    &chkDestKeepZStruct, &chkNoHiddenFolder, &chkMonSubFolder, &chkFStruct}) {
-            grey->State = 2;
-        }
-        optExist.select(4);
-        optUnZip.select(2);
-        optIntTime.select(3);
+        optAction.select(1);
         dxComment.EditValue = "first\r\nsecond";
         dxZipPwd.EditValue = "\"quoted\"";
         dxDestZipPwd.EditValue = " blanks ";
         dxFreeSpace.EditValue = std::int64_t{2500};
-        dxExecMaxSec.EditValue = std::int64_t{90};
-        dxSize.EditValue = std::int64_t{1024};
-        dxMonDelay.EditValue = std::int64_t{7};
-        dxIntMonthDay.EditValue = std::int64_t{28};
-        setDuration(dxDays, dxHours, dxMinutes, 3, 4, 5);
-        setDuration(dxAge, dxAgeHours, dxAgeMinutes, 2, 3, 4);
-        dxDateFrom.EditValue = dateOf(2026, 1, 2);
-        dxDateTo.EditValue = dateOf(2026, 2, 3);
-        dxFileDate.EditValue = dateOf(2026, 3, 4);
-        dxDate.EditValue = dateOf(2027, 4, 5);
         dxDateTime.EditValue = TimeOfDay{6 * 3600 + 7 * 60 + 8};
-        dxPickRenamer.EditValue = dxPickRenamer.Items[1];
-        dxZipGrade.EditValue = dxZipGrade.Items[3];
         CompressionLevel = 4;
-        dxPickExistSelecter.EditValue = dxPickExistSelecter.Items[7];
-        dxMonWatch.EditValue = dxMonWatch.Items[4];
-        dxIntWeekDay.EditValue = dxIntWeekDay.Items[6];
         Navigation.Nodes = {{"Job", ""}, {"Action", "4"}};
         PageNodeIndex = {{0, 0}, {1, 1}};
-    }
-
-    static void setDuration(EditorControl& days, EditorControl& hours, EditorControl& minutes, std::int64_t d,
-                            std::int64_t h, std::int64_t m) {
-        days.EditValue = d;
-        hours.EditValue = h;
-        minutes.EditValue = m;
     }
 };
 

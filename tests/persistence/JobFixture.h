@@ -21,8 +21,7 @@ using test::bytesOf;
 inline constexpr LocalTime now{Date{std::chrono::year{2026}, std::chrono::November, std::chrono::day{21}},
                                std::chrono::hours{14} + std::chrono::minutes{5}};
 
-class JobTest : public testing::Test {
-  protected:
+struct JobTest : testing::Test {
     void put(std::string_view bytes) const { static_cast<void>(temporary.file("a.job", bytes)); }
 
     void save(FormModel& form, JobStore::Write mode = JobStore::Write::update) {

@@ -1,5 +1,6 @@
 #include <array>
 #include <limits>
+#include <regex>
 #include <tuple>
 
 #include "persistence/modSaveValues.h"
@@ -12,50 +13,37 @@ namespace {
 namespace fs = std::filesystem;
 using SaveTest = JobTest;
 
-// The text of the filled form, with Windows line ends; only the version behind it moves on.
-std::string expectedJob() {
-    return bytesOf(fs::path(__FILE__).parent_path() / "full.job") +
-           "[Info]\r\nProgVersion=" + std::string{programVersion()} + "\r\n";
+// Authors of runners read the document, not the code.
+TEST(JobFormat, TheDocumentListsTheSameKeysInTheSameOrder) {
+    const std::string text = bytesOf(fs::path(__FILE__).parent_path() / "../../docs/job-file.md");
+    std::string listed;
+    const std::regex row{R"(\n\| `(\w+)` \| (?:`([^`]*)`)?)"};
+    for (std::sregex_iterator found{text.begin(), text.end(), row}, end; found != end; ++found)
+        listed += found->str(1) + " " + found->str(2) + "\n";
+    std::string expected;
+    for (const JobRow& line : jobFormat())
+        expected.append(line.key).append(" ").append(line.control).append("\n");
+    EXPECT_EQ(listed, expected);
 }
 
+// With Windows line ends; only the version behind the text of the filled form moves on.
 TEST_F(SaveTest, AFullJobIsWrittenByteForByteAndComesBack) {
+    const std::string expected = bytesOf(fs::path(__FILE__).parent_path() / "full.job") +
+                                 "[Info]\r\nProgVersion=" + std::string{programVersion()} + "\r\n";
     FilledForm form;
     form.fill();
+    put("");
+    fs::permissions(file, fs::perms::owner_read);
     save(form);
-    EXPECT_EQ(bytesOf(file), expectedJob());
+    EXPECT_EQ(bytesOf(file), expected);
+    EXPECT_NE(fs::status(file).permissions() & fs::perms::owner_write, fs::perms::none);
 
     FilledForm loaded;
     load(loaded);
     loaded.Navigation = form.Navigation;
     loaded.PageNodeIndex = form.PageNodeIndex;
     save(loaded, JobStore::Write::create);
-    EXPECT_EQ(bytesOf(file), expectedJob());
-}
-
-// An editor nobody has touched: nothing is picked, several editors are empty, some groups have no choice.
-TEST_F(SaveTest, AnUntouchedJobComesBackAsItWas) {
-    FilledForm form;
-    SetNewJobDefaults(form, now);
-    form.dxMonDelay.EditValue = std::monostate{};
-    save(form);
-    const std::string first = bytesOf(file);
-    FilledForm loaded;
-    load(loaded);
-    EXPECT_EQ(loaded.dxMonDelay.EditValue, Value{});
-    save(loaded, JobStore::Write::create);
-    EXPECT_EQ(bytesOf(file), first);
-}
-
-TEST_F(SaveTest, KeepsWhatItDoesNotKnowAndMakesTheFileWritable) {
-    put("; by hand\n[Job]\nname=old\nMine=1\n\n[Runner]\nLast=5\n");
-    fs::permissions(file, fs::perms::owner_read);
-    FilledForm form;
-    form.dxName.EditValue = "new";
-    save(form);
-    const std::string bytes = bytesOf(file);
-    EXPECT_TRUE(bytes.starts_with("; by hand\n[Job]\nname=new\nMine=1\nFrom=\n")) << bytes;
-    EXPECT_NE(bytes.find("\n\n[Runner]\nLast=5\n[Info]\nProgVersion="), bytes.npos) << bytes;
-    EXPECT_NE(fs::status(file).permissions() & fs::perms::owner_write, fs::perms::none);
+    EXPECT_EQ(bytesOf(file), expected);
 }
 
 TEST_F(SaveTest, CorrectsTheFormOnTheWay) {
@@ -97,6 +85,13 @@ TEST_F(SaveTest, WhatIsEmptyOrNotChosenFollowsTheRuleOfItsRow) {
                                      {"IntervalDate", "21.11.2026"}}) {
         EXPECT_EQ(saved(form, key), value) << key;
     }
+    SetPresentDates(form, now);
+    save(form, JobStore::Write::create);
+    const std::string before = bytesOf(file);
+    FilledForm loaded;
+    load(loaded);
+    save(loaded, JobStore::Write::create);
+    EXPECT_EQ(bytesOf(file), before) << "and comes back";
     form.optAction.select(5);
     EXPECT_EQ(saved(form, "FStruct"), "1");
 }
@@ -108,7 +103,9 @@ TEST_F(SaveTest, DurationsCarryOnlyAboveSixtyAndTwentyFour) {
          {Row{0, 0, 60, "60", "0 0 60"}, Row{0, 24, 0, "1440", "0 24 0"}, Row{0, 24, 61, "1501", "1 1 1"},
           Row{1, 48, 150, "4470", "3 2 30"}, Row{most, most, 5, std::to_string(most), std::to_string(most) + " 7 5"}}) {
         FilledForm form;
-        FilledForm::setDuration(form.dxDays, form.dxHours, form.dxMinutes, d, h, m);
+        form.dxDays.EditValue = d;
+        form.dxHours.EditValue = h;
+        form.dxMinutes.EditValue = m;
         EXPECT_EQ(saved(form, "Interval"), minutes);
         EXPECT_EQ(saved(form, "Counter"), minutes);
         EXPECT_EQ(std::to_string(form.dxDays.number()) + " " + std::to_string(form.dxHours.number()) + " " +
@@ -141,12 +138,6 @@ TEST_F(SaveTest, CompressionLevel) {
     EXPECT_EQ(saved(untranslated, "ZipGrade"), "4");
 }
 
-TEST_F(SaveTest, LeavesTheNotesOutOnRequest) {
-    FilledForm form;
-    for (const JobLine& line : SaveValues(form, dates, now, true))
-        EXPECT_TRUE(line.key != "Comment" && line.key != "NodeIcon");
-}
-
 TEST_F(SaveTest, EveryTextComesBackAndNoneForgesALine) {
     using namespace std::string_literals;
     const std::pair<std::string, std::string> texts[] = {
@@ -167,24 +158,6 @@ TEST_F(SaveTest, EveryTextComesBackAndNoneForgesALine) {
             EXPECT_EQ(editor->text(), stored) << editor->Name();
         EXPECT_EQ(handler.ReadIniFileValue(infoSection, "x", "", file, textSize), "");
     }
-}
-
-TEST_F(SaveTest, RenameLeavesOneWholeJobAndAFailureTheOldOne) {
-    const std::string old = "[Job]\nName=a\nMine=1\n";
-    put(old);
-    FilledForm form;
-    form.fill();
-    EXPECT_THROW(jobs.rename(file, folder / "missing" / "b.job", SaveValues(form, dates, now)), std::system_error);
-    form.dxSource.EditValue = "\u65e5\u672c";  // not in the code page
-    EXPECT_THROW(save(form), std::invalid_argument);
-    EXPECT_THROW(jobs.rename(file, folder / "b.job", SaveValues(form, dates, now)), std::invalid_argument);
-    EXPECT_EQ(bytesOf(file), old);
-    EXPECT_EQ(temporary.names(), std::vector<std::string>{"a.job"});
-
-    form.dxSource.EditValue = "the dxSource";
-    jobs.rename(file, folder / "b.job", SaveValues(form, dates, now));
-    EXPECT_EQ(bytesOf(folder / "b.job"), expectedJob());
-    EXPECT_EQ(temporary.names(), std::vector<std::string>{"b.job"});
 }
 
 }  // namespace
