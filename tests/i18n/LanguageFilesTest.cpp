@@ -1,4 +1,4 @@
-// What a translator can get wrong in a language file, for the files that the product ships.
+// What a language file brings into the form, and what a translator can get wrong in those that the product ships.
 #include <algorithm>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -8,15 +8,84 @@
 #include <string>
 #include <vector>
 
+#include "i18n/LoadLanguage.h"
+#include "i18n/PickLists.h"
 #include "i18n/modMessages.h"
+#include "persistence/modIniHandler.h"
 #include "platform/Text.h"
-#include "tests/i18n/LanguageFixture.h"
+#include "tests/platform/TemporaryFolder.h"
 
 namespace kestedit {
 namespace {
 
-class LanguageFile : public LanguageTest, public testing::WithParamInterface<const char*> {
-  protected:
+std::filesystem::path shippedLanguage(std::string_view name) {
+    return std::filesystem::path{KESTEDIT_LANG_DIR} / (std::string{name} + ".lng");
+}
+
+/// Loads language files into the form, one after the other.
+struct LanguageTest : testing::Test {
+    void load(const std::filesystem::path& file) {
+        IniStore ini;
+        ComponentValues values;
+        values.Language = file.string();
+        LoadLanguage(form, modIniHandler{ini, values});
+    }
+    void loadLines(std::string_view lines) { load(folder.file("texts.lng", lines)); }
+
+    FormModel form;
+    test::TemporaryFolder folder;
+};
+
+TEST_F(LanguageTest, WithoutAFileOnlyTwoButtonsAndTheUnitsHaveTexts) {
+    load(shippedLanguage("german"));
+    load("/nowhere/missing.lng");
+
+    std::string filled;
+    for (const EditorControl* control : form.controls()) {
+        filled += control->Caption + control->ToolTipText;
+        for (const std::string& entry : control->Items)
+            filled += entry;
+    }
+    for (const std::string& text : form.TextCatalogue)
+        filled += text + ',';
+    EXPECT_EQ(filled, "&Abbrechen&Speichern,,,, , ," + std::string(21, ',') +
+                          "Minuten,Stunden,Tage,Tag,Stunde,Minute," + std::string(catalogueSize - 33, ','));
+}
+
+TEST_F(LanguageTest, OneTextReachesAllItsTargetsAndOnlyTheCatalogueGetsTheBlank) {
+    form.TextCatalogue.clear();  // as it is released with the form's texts
+    loadLines("[frmEdit]\nt34=Leere Ordner\nt25=Ziel\nt07=wrong\nt7=Move\n[Weekdays]\nt0=Mon\nt1=Tue\n");
+    EXPECT_EQ(form.TextCatalogue[5], "Leere Ordner ");
+    for (const char* name : {"chkDelEFol", "chkDelEFolSource", "chkZipDelCompBinFolder"})
+        EXPECT_EQ(form.at(name).Caption, "Leere Ordner") << name;
+    for (const std::size_t entry : {13U, 48U, 75U})
+        EXPECT_EQ(form.TextCatalogue[entry], "Ziel") << entry;
+    EXPECT_EQ(form.optAction[1].Caption, "Move") << "keys have no leading zero";
+    EXPECT_EQ(form.dxIntWeekDay.Items, (std::vector<std::string>{"Mon", "Tue", "", "", "", "", ""}));
+}
+
+TEST_F(LanguageTest, TheLaterOfTwoKeysStandsEvenWhenItIsMissing) {
+    loadLines("[frmEdit]\nt154=later\nt142=earlier\nt139=alone\n");
+    EXPECT_EQ(form.lblDestZDec.Caption, "later");
+    EXPECT_EQ(form.lblDestZExist.Caption, "");
+}
+
+TEST_F(LanguageTest, ASelectedEntryKeepsItsPositionWhenTheLanguageChanges) {
+    load(shippedLanguage("german"));
+    EXPECT_EQ(form.dxPickRenamer.text(), form.dxPickRenamer.Items[0]) << "nothing was selected before";
+    const std::map<std::string, std::size_t> selected{
+        {"dxIntWeekDay", 6}, {"dxMonWatch", 3}, {"dxPickRenamer", 2}, {"dxPickExistSelecter", 5}};
+    for (const auto& [list, position] : selected)
+        form.at(list).EditValue = form.at(list).Items.at(position);
+    load(shippedLanguage("english"));
+    for (const auto& [list, position] : selected)
+        EXPECT_EQ(form.at(list).text(), form.at(list).Items.at(position)) << list;
+    EXPECT_EQ(form.dxIntWeekDay.text(), "Sunday");
+    ReplaceItems(form.dxIntWeekDay, {"Sunday", "Monday"});
+    EXPECT_TRUE(form.dxIntWeekDay.isEmpty()) << "nothing stands at the position, and the text does not count";
+}
+
+struct LanguageFile : LanguageTest, testing::WithParamInterface<const char*> {
     LanguageFile() { load(shippedLanguage(GetParam())); }
 };
 
@@ -41,7 +110,6 @@ TEST_P(LanguageFile, LeavesNoTextEmptyButThoseOfTheRules) {
               "optSyncExist(0) ");
     for (std::size_t i = 0; i < catalogueSize; ++i)
         EXPECT_NE(trimBlanks(form.TextCatalogue[i]), "") << "entry " << i;
-    EXPECT_EQ(std::ranges::count(form.ReplaceIfTexts, ""), 0);
     EXPECT_EQ(form.Localizer.size() - static_cast<std::size_t>(std::ranges::count(form.Localizer, "")), 9U);
 }
 
@@ -105,9 +173,7 @@ TEST_P(LanguageFile, HasEveryTextOnceAndWhole) {
     EXPECT_GT(names.size(), 193U);
 }
 
-class GermanFile : public LanguageTest {};
-
-TEST_F(GermanFile, SaysWhatTheBuiltInTextsSay) {
+TEST_F(LanguageTest, TheGermanFileSaysWhatTheBuiltInTextsSay) {
     load(shippedLanguage("german"));
     FormModel builtIn;
     FillBuiltInTexts(builtIn.TextCatalogue, builtIn.ReplaceIfTexts);
