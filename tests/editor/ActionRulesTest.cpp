@@ -1,83 +1,47 @@
-// The choice of the action and what follows from it; the rule pass of all pages.
-
-#include <algorithm>
+// The choice of the action and what follows from it, compression and extraction; the rules of a page by its position.
 #include <array>
 #include <map>
+#include <set>
 #include <utility>
 
+#include "editor/NodeImages.h"
 #include "editor/rules/RefreshPageStates.h"
+#include "editor/rules/compression.h"
 #include "tests/editor/EditorFixture.h"
 
 namespace kestedit {
 namespace {
 
-using test::dumpOf;
-using test::marksOf;
-
-constexpr std::array<std::array<std::string_view, 2>, test::actionCount> images{
-    {{"2", "3"}, {"4", "5"}, {"6", "7"}, {"9", "13"}, {"14", "15"}, {"12", "11"}}};
-
-struct ActionRules : test::EditorTest {
-    /// A job that was made with this action and nothing else.
-    void saveJobOf(int action) {
-        create();
-        act(action);
-        type("dxName", "job" + std::to_string(action));
-        click("cmdSave");
-    }
-    [[nodiscard]] bool offers(int action) { return form().optAction[static_cast<std::size_t>(action)].Visible; }
-};
-
-/// Marks of a job of that action whose other pages are at their neutral choices.
-std::string neutralMarks(int action, int view) {
-    std::array<std::string, 13> pages;
-    pages[1] = images[static_cast<std::size_t>(action)][0];
-    pages[2] = pages[4] = view == 23 ? "" : "0";
-    pages[11] = action == 3 || action == 4 ? "8" : "10";
-    pages[12] = action == 2 && view != 23 ? "10" : "";
-    const std::map<int, std::vector<std::size_t>> left{{4, {}}, {9, {11}}, {15, {3, 4}}, {23, {2, 3, 4, 11}}};
-    std::string marks;
-    for (std::size_t page = 0; page < pages.size(); ++page) {
-        if (std::ranges::find(left.at(view), page) != left.at(view).end()) continue;
-        marks += (page == 0 ? "" : ",") + pages[page];
-    }
-    return view == 23 ? marks + "," : marks;  // the notes stand at the end
-}
+using ActionRules = test::EditorTest;
+using CompressionRules = test::EditorTest;
+struct RefreshPageStates : test::EditorTest {};
 
 TEST_F(ActionRules, NodeImagesFollowActionAndPreview) {
-    for (const int view : test::allViews) {
+    const std::array<std::array<std::string_view, 2>, test::actionCount> images{
+        {{"2", "3"}, {"4", "5"}, {"6", "7"}, {"9", "13"}, {"14", "15"}, {"12", "11"}}};
+    const std::map<int, std::set<int>> views{{4, {}}, {9, {3, 4}}, {15, {}}, {23, {3, 4, 5}}};
+    for (const auto& [view, hidden] : views) {
         create(view);
         for (int action = 0; action < test::actionCount; ++action) {
             SCOPED_TRACE(std::to_string(view) + " " + std::to_string(action));
-            node(1);
-            if (!offers(action)) {
-                expectRefused([&] { choose("optAction", action); });
+            const auto& [plain, preview] = images.at(static_cast<std::size_t>(action));
+            const EditorControl& option = at("optAction(" + std::to_string(action) + ")");
+            walkAllPages();
+            EXPECT_EQ(form().optIntervall[2].Visible, view != 9);
+            if (hidden.contains(action)) {
+                expectRefused([&] { act(action); });
                 continue;
             }
-            choose("optAction", action);
-            EXPECT_EQ(image(1), images[static_cast<std::size_t>(action)][0]);
+            act(action);
+            EXPECT_EQ(image(1), plain);
             EXPECT_EQ(form().ActionPicture, action + 1);
-            const std::string caption = at("optAction(" + std::to_string(action) + ")").Caption;
-            EXPECT_EQ(form().Image1.ToolTipText, "Modus: " + caption);
+            EXPECT_EQ(form().Image1.ToolTipText, "Modus: " + option.Caption);
             check("chkPreview");
-            EXPECT_EQ(image(1), images[static_cast<std::size_t>(action)][1]);
+            EXPECT_EQ(image(1), preview);
             EXPECT_EQ(form().ActionPicture, action + 7);
-            EXPECT_EQ(form().Image1.ToolTipText, "Modus: " + caption + " - Vorschau (keine Aktion)");
+            EXPECT_EQ(form().Image1.ToolTipText, "Modus: " + option.Caption + " - Vorschau (keine Aktion)");
             check("chkPreview", 2);  // grey is not set
-            EXPECT_EQ(image(1), images[static_cast<std::size_t>(action)][0]);
-        }
-    }
-}
-
-TEST_F(ActionRules, OpenedJobShowsItsMarksAtOnceAndNoPageChangesThem) {
-    for (int action = 0; action < test::actionCount; ++action) {
-        saveJobOf(action);
-        for (const int view : test::allViews) {
-            SCOPED_TRACE(std::to_string(action) + " " + std::to_string(view));
-            edit("job" + std::to_string(action), view);
-            EXPECT_EQ(marksOf(form()), neutralMarks(action, view));
-            walkAllPages();
-            EXPECT_EQ(marksOf(form()), neutralMarks(action, view));
+            EXPECT_EQ(image(1), plain);
         }
     }
 }
@@ -98,6 +62,8 @@ TEST_F(ActionRules, SynchroniseRenamesPathsAndKeepsTheFolderStructure) {
         }
         act(5);
         EXPECT_EQ(form().FrontOrder, (std::vector<const EditorControl*>{&form().fraSync, &form().fraZielverzeichnis}));
+        EXPECT_EQ(form().lblNoOptionMsg[0].Caption,
+                  "(Modus Verzeichnisse synchronisieren - keine Optionen für diese Aktion)");
         act(3);
         EXPECT_EQ(form().chkFStruct.State, 0);
         EXPECT_FALSE(form().chkOnlyCompare.Visible);
@@ -110,85 +76,63 @@ TEST_F(ActionRules, ComparingOnlyTakesAwayToKeepExistingFiles) {
     EXPECT_TRUE(form().optSyncExist[0].isSet() && form().optSyncExist[0].Enabled) << "not while copying";
     act(5);
     EXPECT_TRUE(form().optSyncExist[1].isSet());
-    EXPECT_FALSE(form().optSyncExist[0].Enabled || form().chkSyncDelete.Visible);
     EXPECT_EQ(form().optSyncExist[0].Caption, text(73));
     expectRefused([&] { choose("optSyncExist", 0); });
     choose("optSyncExist", 2);
     check("chkOnlyCompare", 0);
     EXPECT_EQ(form().optSyncExist.selected(), 0);
-    EXPECT_TRUE(form().optSyncExist[0].Enabled && form().chkSyncDelete.Visible);
     EXPECT_EQ(form().optSyncExist[0].Caption, text(72));
     choose("optSyncExist", 2);
-    const auto before = dumpOf(form());
     act(5);  // a window reports the click on an option that is chosen already
     check("chkOnlyCompare", 0);
-    EXPECT_EQ(test::differences(before, dumpOf(form())), "") << "the job has decided that before";
+    EXPECT_EQ(form().optSyncExist.selected(), 2) << "the job has decided that before";
 }
 
-TEST_F(ActionRules, PagesShowTheFramesOfTheActionOrSayThatTheyHaveNone) {
+TEST_F(CompressionRules, OnlyTheSwitchOfExtractionClearsItsCompanion) {
     create();
-    const std::string shown[] = {"Z1", "Z1", "12", "pZ", "uU", "SZ1"};
-    const std::pair<const char*, char> letters[] = {
-        {"fraZip", 'p'}, {"fraUnZip", 'u'}, {"fraExistingUnzip", 'U'}, {"fraSync", 'S'}, {"fraZielverzeichnis", 'Z'}};
-    for (int action = 0; action < test::actionCount; ++action) {
+    for (const auto& [action, box, companion] :
+         {std::tuple{3, "chkZipDelComp", "chkZipDelCompBin"}, std::tuple{4, "chkZipDelDeComp", "chkZipDelDeCompBin"}}) {
         act(action);
-        node(11);
-        node(12);
-        std::string seen;
-        for (const auto& [frame, letter] : letters)
-            if (at(frame).Visible) seen += letter;
-        const std::string reason = "(Modus " + form().optAction[static_cast<std::size_t>(action)].Caption + " - " +
-                                   "keine Optionen für diese Aktion)";
-        for (const std::size_t page : {0U, 1U})
-            if (form().lblNoOptionMsg[page].Caption == reason) seen += static_cast<char>('1' + page);
-        EXPECT_EQ(seen, shown[action]);
+        check(box);
+        check(companion);
+        check(box, 2);
+        EXPECT_EQ(at(box).State, action == 3 ? 0 : 2) << "grey becomes clear";
+        EXPECT_EQ(at(companion).State, action == 3 ? 1 : 0);
     }
 }
 
-struct RefreshPageStates : test::EditorTest {};
+TEST_F(CompressionRules, ExistingFilesMarkOfCompressAndExtract) {
+    create();
+    const auto markAfter = [&](int action, std::size_t exist, std::size_t unzip, int index) {
+        act(action);
+        form().optExist.select(exist);
+        form().optUnZip.select(unzip);
+        SetNodeImage(form(), Page::existing, "left");
+        ApplyUnZipExisting(form(), index);
+        return image(12);
+    };
+    EXPECT_EQ(markAfter(3, 0, 1, 1), "") << "the other group decides";
+    EXPECT_EQ(markAfter(3, 3, 0, 0), "8");
+    EXPECT_EQ(markAfter(3, 0, 0, 0), "left") << "the item has been handled";
+    EXPECT_EQ(markAfter(4, 0, 2, 2), "8");
+    EXPECT_EQ(markAfter(4, 3, 0, 0), "");
+    EXPECT_EQ(markAfter(0, 3, 2, 2), "left");
+    EXPECT_EQ(markAfter(4, 0, 2, 2), "left") << "an item counts as handled under every action";
+}
 
 // Positions 3 to 6 show the pages of folders, files, extensions and size in view 15.
 TEST_F(RefreshPageStates, View15RunsRulesByPosition) {
-    const std::map<int, std::vector<std::string>> expected{
-        {9, std::vector<std::string>(12)},
-        {15, {"", "", "", "weekday", "", "", "match", "dates", "attributes", "", "unzip"}},
-        {23, {"", "", "", "match", "", "", "dates", "attributes", "unzip", ""}}};
-    for (const auto& [view, restored] : expected) {
-        create(view);
-        const std::pair<std::string, bool*> flags[] = {{"weekday", &form().dxIntWeekDay.Visible},
-                                                       {"match", &form().dxFileName.Visible},
-                                                       {"dates", &form().dxDateFrom.Visible},
-                                                       {"attributes", &form().chkAttrArchive[1].Visible},
-                                                       {"unzip", &form().fraExistingUnzip.Visible}};
-        for (std::size_t position = 0; position < restored.size(); ++position) {
-            for (const auto& [name, flag] : flags)
-                *flag = true;
-            kestedit::RefreshPageStates(form(), "", view, static_cast<int>(position));
-            std::string back;
-            for (const auto& [name, flag] : flags)
-                back += *flag ? "" : name;
-            EXPECT_EQ(back, restored[position]) << view << " " << position;
-        }
-    }
-}
-
-TEST_F(RefreshPageStates, ASecondPassAndASecondWalkChangeNothing) {
-    for (const bool disable : {false, true}) {
-        folder.file("program.ini", disable ? "[EditWin]\nDisableInsteadOfHide=1\n" : "");
-        for (const int view : test::allViews) {
-            for (int action = 0; action < test::actionCount; ++action) {
-                create(view);
-                if (!form().optAction[static_cast<std::size_t>(action)].Visible) continue;
-                SCOPED_TRACE(std::to_string(view) + " " + std::to_string(action));
-                check("chkSubFolder");
-                act(action);
-                walkAllPages();
-                const std::string dump = dumpOf(form());
-                kestedit::RefreshPageStates(form(), "all", view, 0);
-                walkAllPages();
-                EXPECT_EQ(test::differences(dump, dumpOf(form())), "");
-            }
-        }
+    create(15);
+    const std::string restored[] = {
+        "", "", "", "dxIntWeekDay", "", "", "dxFileName", "dxDateFrom", "chkAttrArchive(1)", "", "fraExistingUnzip"};
+    for (int position = 0; position < static_cast<int>(std::size(restored)); ++position) {
+        for (const std::string& name : restored)
+            if (!name.empty()) at(name).Visible = true;
+        kestedit::RefreshPageStates(form(), "", 15, position);
+        std::string back;
+        for (const std::string& name : restored)
+            if (!name.empty() && !at(name).Visible) back += name;
+        EXPECT_EQ(back, restored[position]) << position;
     }
 }
 

@@ -2,7 +2,6 @@
 // user's events as short words.
 #pragma once
 
-#include <algorithm>
 #include <chrono>
 #include <deque>
 #include <filesystem>
@@ -10,6 +9,7 @@
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
+#include <set>
 #include <sstream>
 #include <stdexcept>
 #include <string>
@@ -80,10 +80,9 @@ struct Surroundings {
     [[nodiscard]] std::string jobBytes(std::string_view name) const { return bytesOf(jobFile(name)); }
     /// The names in the job folder, each with a blank behind it.
     [[nodiscard]] std::string jobNames() const {
-        std::vector<std::string> names;
+        std::set<std::string> names;
         for (const auto& entry : std::filesystem::directory_iterator(jobs))
-            names.push_back(entry.path().filename());
-        std::sort(names.begin(), names.end());
+            names.insert(entry.path().filename());
         std::string list;
         for (const std::string& name : names)
             list += name + " ";
@@ -104,11 +103,8 @@ struct Surroundings {
 
 /// One control with all its properties, a line.
 inline std::string lineOf(const EditorControl& control) {
-    std::string line = control.Name() + " state " + std::to_string(control.State) + " value " +
-                       std::to_string(control.EditValue.index()) + " \"" + control.text() + "\" " +
-                       std::to_string(control.number());
-    if (const auto date = control.date()) line += " " + DateFormat("yyyy-MM-dd").text(*date);
-    if (const auto time = control.time()) line += " " + timeText(*time);
+    std::string line = control.Name() + " " + std::to_string(control.State);
+    if (control.EditValue.index() > 0) line += " " + testing::PrintToString(control.EditValue);
     for (const bool flag : {control.Enabled, control.Visible, control.ReadOnly, control.TabStop})
         line += flag ? " yes" : " no";
     line += " tab " + std::to_string(control.TabIndex) + " \"" + control.Caption + "\" \"" + control.ToolTipText + "\"";
@@ -117,25 +113,20 @@ inline std::string lineOf(const EditorControl& control) {
     return line + "\n";
 }
 
-inline std::string controlsOf(const FormModel& form) {
-    std::string lines;
-    for (const EditorControl* control : form.controls())
-        lines += lineOf(*control);
-    return lines;
-}
-
-/// Images of the nodes, separated by commas.
+/// Images of the nodes, each with a comma behind it.
 inline std::string marksOf(const FormModel& form) {
     std::string marks;
     for (const NavigationNode& node : form.Navigation.Nodes)
-        marks += (&node == &form.Navigation.Nodes.front() ? "" : ",") + node.Image;
+        marks += node.Image + ",";
     return marks;
 }
 
 inline std::string dumpOf(const FormModel& form) {
-    std::string dump = controlsOf(form) + marksOf(form) + "\n";
+    std::string dump;
+    for (const EditorControl* control : form.controls())
+        dump += lineOf(*control);
     for (const NavigationNode& node : form.Navigation.Nodes)
-        dump += node.Title + "\n";
+        dump += node.Title + " " + node.Image + "\n";
     return dump + form.Caption + " " + std::to_string(form.SelectedAction) + " " +
            std::to_string(form.CompressionLevel) + " " + std::to_string(form.ActionPicture);
 }
@@ -190,11 +181,12 @@ class EditorTest : public testing::Test, public Surroundings {
             click("cmdNext");
     }
 
+    /// The page that is shown: no more than one.
     [[nodiscard]] std::string visibleFrames() {
         std::string names;
         for (const EditorControl* control : form().controls()) {
-            if (control->Kind != ControlKind::frame || control->Container || !control->Visible) continue;
-            names += (names.empty() ? "" : " ") + control->Name();
+            if (control->Kind == ControlKind::frame && !control->Container && control->Visible)
+                names += control->Name();
         }
         return names;
     }

@@ -8,13 +8,12 @@
 namespace kestedit {
 namespace {
 
-class RunTimeTexts : public test::EditorTest {
-  protected:
+struct RunTimeTexts : test::EditorTest {
     /// All of them, as the file says them; without one, the German texts that are built in.
     std::vector<std::string> textsOf(const std::string& file) {
         values.Language = file;
         create();
-        const modIniHandler texts(ini, values);
+        const modIniHandler& texts = form().texts();
         std::vector<std::string> all{UnstorableText(texts, "€")};
         for (int finding = 0; finding <= static_cast<int>(PathFinding::monitoredNoAnswer); ++finding)
             all.push_back(FindingText(texts, static_cast<PathFinding>(finding), form()));

@@ -1,0 +1,183 @@
+// What is wrong with a job's folders and its schedule, and when the editor says so.
+#include <map>
+#include <thread>
+
+#include "editor/rules/action.h"
+#include "editor/rules/paths.h"
+#include "tests/editor/EditorFixture.h"
+
+namespace kestedit {
+namespace {
+
+namespace fs = std::filesystem;
+using namespace std::chrono_literals;
+using std::chrono::milliseconds;
+using Finding = std::optional<PathFinding>;
+
+/// The machine's own folders, some with rights or delays which a test cannot give to a real one.
+struct OddFolders : FileSystem {
+    std::map<fs::path, FolderStatus> odd;
+    milliseconds delay{0};
+    mutable std::vector<milliseconds> granted;
+    LocalFileSystem local;
+
+    void pass(milliseconds patience) const {
+        granted.push_back(patience);
+        std::this_thread::sleep_for(delay);
+    }
+    FolderStatus inspectFolder(const fs::path& folder, milliseconds patience) const override {
+        pass(patience);
+        const auto found = odd.find(folder);
+        return found == odd.end() ? local.inspectFolder(folder, patience) : found->second;
+    }
+    fs::path resolve(const fs::path& path, milliseconds patience) const override {
+        pass(patience);
+        return local.resolve(path, patience);
+    }
+    // What no check of paths asks.
+    bool FileExists(const fs::path& /*file*/) const override { return false; }
+    bool FolderExists(const fs::path& /*folder*/) const override { return false; }
+    void DeleteFile(const fs::path& /*file*/) const override {}
+    void CreateFolder(const fs::path& /*folder*/) const override {}
+    std::string BuildPath(std::string_view /*folder*/, std::string_view /*name*/) const override { return {}; }
+    std::string GetFileName(std::string_view /*path*/) const override { return {}; }
+};
+
+struct PathRules : test::EditorTest {
+    PathRules() {
+        for (const char* name : {"data", "data/in", "data/in/deep", "database", "watched"})
+            fs::create_directory(folder.path() / name);
+        fs::create_directory_symlink(folder.path() / "data/in", folder.path() / "link");
+        folders.odd = {{path("dead"), {false, false, false, false}},
+                       {path("sealed"), {true, true, true, false}},
+                       {path("blind"), {true, true, false, true}}};
+        create();
+    }
+    std::string path(const std::string& name) const { return name.empty() ? name : (folder.path() / name).string(); }
+    Finding check(const std::string& source, const std::string& destination) {
+        form().dxSource.EditValue = path(source);
+        form().dxDest.EditValue = path(destination);
+        return CheckPaths(form(), folders);
+    }
+
+    OddFolders folders;
+};
+
+using Findings = test::EditorTest;
+
+TEST_F(PathRules, SourceAndDestinationAreThereAndUsableAndApart) {
+    const std::tuple<const char*, const char*, Finding> cases[] = {
+        {"data", "database", {}},  // a common beginning of the names is no common folder
+        {"", "", PathFinding::noSource},
+        {"gone", "", PathFinding::sourceMissing},
+        {"data", "", PathFinding::noDestination},
+        {"data", "data/gone", PathFinding::destinationMissing},
+        {"data/in", "data/in/deep/..", PathFinding::sameFolder},
+        {"data/in", "link", PathFinding::sameFolder},
+        {"data", "data/in/deep", PathFinding::destinationInSource},
+        {"data/", "link", PathFinding::destinationInSource},
+        {"data/in", "data", PathFinding::sourceInDestination},
+        {"link/deep", "data/", PathFinding::sourceInDestination},
+        {"/", "data", PathFinding::destinationInSource},
+        {"data", "sealed", PathFinding::destinationNotWritable},
+        {"blind", "data", PathFinding::sourceUnreadable},
+        {"dead", "data", PathFinding::sourceNoAnswer},
+        {"data", "dead", PathFinding::destinationNoAnswer},
+        {"dead", "gone", PathFinding::destinationMissing},  // what is known to be wrong goes first
+    };
+    for (const auto& [source, destination, finding] : cases)
+        EXPECT_EQ(check(source, destination), finding) << source << " -> " << destination;
+}
+
+TEST_F(PathRules, OnlyFoldersThatTheJobUsesCount) {
+    act(2);
+    EXPECT_EQ(check("data", "data"), std::nullopt);
+    choose("optIntervall", 2);
+    choose("optMonitorPath", 2);
+    type("dxMonitorPath", path("gone"));
+    EXPECT_EQ(check("data", ""), PathFinding::monitoredMissing);
+    choose("optIntervall", 0);
+    EXPECT_EQ(check("data", ""), std::nullopt);
+    choose("optIntervall", 2);
+    choose("optMonitorPath", 0);
+    EXPECT_EQ(check("data", ""), std::nullopt);
+}
+
+TEST_F(PathRules, SourceIsWritableWhereTheJobNeedsIt) {
+    const std::tuple<Action, std::string_view, bool> cases[] = {
+        {Action::copy, "", false},
+        {Action::move, "", true},
+        {Action::compress, "chkZipDelComp", true},
+        {Action::extract, "chkZipDelComp", false},
+        {Action::extract, "chkZipDelDeComp", true},
+        {Action::synchronise, "chkZipDelDeComp", false},
+        {Action::synchronise, "optSyncStart(1)", true},
+        {Action::copy, "chkDelSourceRename", false},
+    };
+    for (const auto& [action, option, writesAtSource] : cases) {
+        create();
+        act(static_cast<int>(action));
+        if (!option.empty()) at(option).State = 1;
+        EXPECT_EQ(check("sealed", "data") == PathFinding::sourceNotWritable, writesAtSource)
+            << form().SelectedAction << " " << option;
+    }
+    choose("optExist", 2);
+    EXPECT_EQ(check("sealed", "data"), PathFinding::sourceNotWritable);
+}
+
+TEST_F(PathRules, WholeCheckSharesTwoSeconds) {
+    folders.delay = milliseconds{5};
+    choose("optIntervall", 2);
+    choose("optMonitorPath", 2);
+    type("dxMonitorPath", path("watched"));
+    EXPECT_EQ(check("data", "database"), std::nullopt);
+    ASSERT_EQ(folders.granted.size(), 5U);
+    EXPECT_LE(folders.granted.back(), milliseconds{2000 - 4 * 5});
+    EXPECT_GE(folders.granted.back(), milliseconds{0});
+}
+
+TEST_F(Findings, AppearWithTheTimerAndFollowTheirChoices) {
+    create();
+    const std::string noSource = "Es ist kein Quellverzeichnis angegeben.|";
+    const auto shown = [this] {
+        const auto caption = [](const EditorControl& label) { return label.Visible ? label.Caption : ""; };
+        return caption(form().lblChkPathMsg) + "|" + caption(form().lblChkTimeMsg);
+    };
+    number("dxHours", 0);
+    EXPECT_EQ(shown(), "|");
+    form().onTimer();
+    EXPECT_FALSE(form().isTimerRunning());
+    EXPECT_EQ(shown(), noSource + "Zwischen zwei Läufen muss mindestens eine Minute liegen.");
+    number("dxMinutes", 1);
+    type("dxSource", jobs.string());
+    form().onTimer();
+    EXPECT_EQ(shown(), noSource) << "not while typing, and the timer fires once only";
+    form().onEditingFinished(form().dxSource);
+    EXPECT_EQ(shown(), "Für diese Aktion ist kein Zielverzeichnis angegeben.|");
+    act(2);
+    EXPECT_EQ(shown(), "|") << "deleting needs none";
+    choose("optIntervall", 1);
+    choose("optIntTime", 3);
+    const Date today = test::now.date;
+    const std::tuple<std::optional<Date>, std::optional<TimeOfDay>, bool> moments[] = {
+        {addDays(today, 1), 0h, false}, {today, 14h + 5min, false},
+        {today, 14h + 4min, true},      {today, {}, false},
+        {addDays(today, -1), {}, true}, {{}, 9h, true},
+        {addDays(today, -1), 23h, true}};
+    for (const auto& [date, time, passed] : moments) {
+        form().onDateChosen(form().dxDate, date);
+        form().onTimeChosen(form().dxDateTime, time);
+        EXPECT_EQ(shown(), passed ? "|Der gewählte Zeitpunkt ist schon vorbei." : "|");
+    }
+    choose("optIntTime", 0);
+    EXPECT_EQ(shown(), "|") << "a daily job has no date";
+    choose("optIntTime", 3);
+    choose("optIntervall", 0);
+    EXPECT_EQ(shown(), "|") << "nor has one at an interval";
+    choose("optIntervall", 2);
+    choose("optMonitorPath", 2);
+    EXPECT_EQ(shown(), "Es ist kein überwachter Ordner angegeben.|");
+}
+
+}  // namespace
+}  // namespace kestedit
