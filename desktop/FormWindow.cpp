@@ -50,12 +50,19 @@ FormWindow::FormWindow(frmEdit& form) : form_(form), memory_(form.platform().set
     buildFrame();
     addShortcuts();
     binder_.bind(*this);
+    form_.lookInBackground([this](const auto& look, const auto& show) {
+        background_.run(look, [this, show] {
+            show();
+            refresh();
+        });
+    });
     recall();
     refresh();
     showFocus(nullptr);
 }
 
 FormWindow::~FormWindow() {
+    form_.lookInBackground({});
     remember();
 }
 

@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <map>
 
+#include "desktop/Background.h"
 #include "desktop/FormBinder.h"
 #include "desktop/WindowMemory.h"
 #include "editor/frmEdit.h"
@@ -73,6 +74,7 @@ class FormWindow : public QDialog, private EventGate {
     NodeList* list_ = nullptr;
     bool handling_ = false;
     bool painted_ = false;
+    Background background_;  // goes first: it waits for looks at folders
 };
 
 }  // namespace kestedit

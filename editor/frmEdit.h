@@ -2,14 +2,16 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <initializer_list>
 #include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 
-#include "editor/FolderDemands.h"
 #include "editor/FormModel.h"
+#include "editor/JobFolders.h"
 #include "persistence/ComponentValues.h"
 #include "persistence/JobStore.h"
 #include "persistence/modIniHandler.h"
@@ -17,6 +19,8 @@
 #include "platform/Platform.h"
 
 namespace kestedit {
+
+enum class PathFinding;
 
 /// An event that no user could cause: its control is disabled, hidden, read-only or of another kind.
 class KESTEDIT_EXPORT EventRefused : public std::invalid_argument {
@@ -32,6 +36,12 @@ class KESTEDIT_EXPORT frmEdit : public FormModel {
   public:
     /// Both must outlive the form.
     frmEdit(ComponentValues& values, Platform& platform);
+
+    /// Runs `look`, on any thread, and then `show` on the thread of the form.
+    using Background = std::function<void(std::function<void()> look, std::function<void()> show)>;
+    /// How folders are looked at, which takes two seconds when one gives no answer; at once and here, without this. For
+    /// a driver whose user must not wait. What it still has to show, it drops before the form goes.
+    void lookInBackground(Background background) { background_ = std::move(background); }
 
     /// Everything up to the moment where the form becomes visible: settings, texts, job or new-job defaults,
     /// navigation, first rule pass, focus, tab order.
@@ -95,6 +105,7 @@ class KESTEDIT_EXPORT frmEdit : public FormModel {
     void showPage(int position);
     void focus(EditorControl& control);
     void checkPaths();
+    void showPathFinding(std::optional<PathFinding> finding);
     void checkSchedule();
     void browsePath(EditorControl& control);
     void browseExecPath(int button);
@@ -117,7 +128,8 @@ class KESTEDIT_EXPORT frmEdit : public FormModel {
     bool loading_ = true;
     bool open_ = true;
     bool timerRunning_ = true;
-    FolderDemands checkedDemands_;  ///< those that the path check last looked at
+    JobFolders checkedFolders_;  ///< those of the last check, which may still be under way
+    Background background_;
     bool editPaths_ = true;
 };
 

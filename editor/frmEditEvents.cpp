@@ -72,7 +72,7 @@ void frmEdit::changed(EditorControl& control) {
     // A finding goes as soon as the user has mended it. The disk is asked only when the job wants other things from it.
     if (timerRunning_) return;
     checkSchedule();
-    if (DemandsOnFolders(*this) != checkedDemands_) checkPaths();
+    if (DemandsOnFolders(*this) != checkedFolders_.demands) checkPaths();
 }
 
 void frmEdit::onTextTyped(EditorControl& control, std::string_view text) {

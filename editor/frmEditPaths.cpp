@@ -1,5 +1,6 @@
 // The path fields of frmEdit: choosing and creating folders, and the check of what stands in them.
 #include <array>
+#include <memory>
 #include <string>
 
 #include "editor/ChangeRules.h"
@@ -75,8 +76,21 @@ void frmEdit::browseExecPath(int button) {
 }
 
 void frmEdit::checkPaths() {
-    checkedDemands_ = DemandsOnFolders(*this);
-    const auto finding = CheckPaths(*this, platform_.files);
+    checkedFolders_ = FoldersOf(*this);
+    const auto finding = std::make_shared<std::optional<PathFinding>>();
+    const auto look = [finding, folders = checkedFolders_, &files = platform_.files] {
+        *finding = CheckPaths(folders, files);
+    };
+    // A look that ends late must not speak over the one that the user's next change has started.
+    const auto show = [this, finding, folders = checkedFolders_] {
+        if (folders == checkedFolders_) showPathFinding(*finding);
+    };
+    if (background_) return background_(look, show);
+    look();
+    show();
+}
+
+void frmEdit::showPathFinding(std::optional<PathFinding> finding) {
     lblChkPathMsg.Caption = finding ? FindingText(ini_, *finding, *this) : std::string{};
     lblChkPathMsg.Visible = finding.has_value();
 }

@@ -20,8 +20,8 @@ set(public_headers
   # for drivers of the form
   component/FrontEnd.h
   editor/EditorControl.h
-  editor/FolderDemands.h
   editor/FormModel.h
+  editor/JobFolders.h
   editor/PatternHint.h
   editor/WindowTexts.h
   editor/dlgNewFolder.h

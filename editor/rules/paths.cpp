@@ -36,9 +36,9 @@ constexpr FolderFindings monitoredFindings{PathFinding::noMonitored, PathFinding
                                            PathFinding::monitoredUnreadable, PathFinding::monitoredNoAnswer,
                                            &FolderStatus::readable};
 
-std::optional<PathFinding> judge(const EditorControl& field, const FolderStatus& status,
+std::optional<PathFinding> judge(const std::string& folder, const FolderStatus& status,
                                  const FolderFindings& findings) {
-    if (field.isEmpty()) return findings.empty;
+    if (folder.empty()) return findings.empty;
     if (!status.answered) return findings.silent;
     if (!status.exists) return findings.missing;
     if (!(status.*findings.usable)) return findings.unusable;
@@ -84,34 +84,33 @@ bool changesSource(const FormModel& form) {
 /// One look at all folders of a job.
 class PathCheck {
   public:
-    PathCheck(const FormModel& form, const FileSystem& files)
-        : form_(form), files_(files), end_(std::chrono::steady_clock::now() + checkTime) {}
+    PathCheck(const JobFolders& folders, const FileSystem& files)
+        : folders_(folders), files_(files), end_(std::chrono::steady_clock::now() + checkTime) {}
 
     std::optional<PathFinding> run() {
-        const FolderDemands demands = DemandsOnFolders(form_);
-        const FolderStatus source = look(form_.dxSource, sourceFindings);
-        if (demands.destination) {
-            look(form_.dxDest, destinationFindings);
+        const FolderStatus source = look(folders_.source, sourceFindings);
+        if (folders_.demands.destination) {
+            look(folders_.destination, destinationFindings);
             compare();
         }
-        if (demands.monitored) look(form_.dxMonitorPath, monitoredFindings);
+        if (folders_.demands.monitored) look(folders_.monitored, monitoredFindings);
         const bool writable = !source.answered || source.writable;
-        if (!writable && demands.writableSource) found_.push_back(PathFinding::sourceNotWritable);
+        if (!writable && folders_.demands.writableSource) found_.push_back(PathFinding::sourceNotWritable);
         // The enumerators stand in the order in which findings are shown.
         return found_.empty() ? std::nullopt : std::optional{std::ranges::min(found_)};
     }
 
   private:
-    FolderStatus look(const EditorControl& field, const FolderFindings& findings) {
-        const FolderStatus status = field.isEmpty() ? FolderStatus{} : files_.inspectFolder(field.text(), patience());
-        note(judge(field, status, findings));
+    FolderStatus look(const std::string& folder, const FolderFindings& findings) {
+        const FolderStatus status = folder.empty() ? FolderStatus{} : files_.inspectFolder(folder, patience());
+        note(judge(folder, status, findings));
         return status;
     }
 
     /// An empty path compares as the folder of all others, which does no harm: that it is empty is shown first.
     void compare() {
-        const fs::path source = files_.resolve(form_.dxSource.text(), patience());
-        const fs::path destination = files_.resolve(form_.dxDest.text(), patience());
+        const fs::path source = files_.resolve(folders_.source, patience());
+        const fs::path destination = files_.resolve(folders_.destination, patience());
         note(compareFolders(source, destination));
     }
 
@@ -124,7 +123,7 @@ class PathCheck {
         return std::max(left, std::chrono::milliseconds{0});
     }
 
-    const FormModel& form_;
+    const JobFolders& folders_;
     const FileSystem& files_;
     const std::chrono::steady_clock::time_point end_;
     std::vector<PathFinding> found_;
@@ -138,6 +137,10 @@ bool HasDestination(const FormModel& form) {
 
 FolderDemands DemandsOnFolders(const FormModel& form) {
     return {HasDestination(form), watchesOwnFolder(form), changesSource(form)};
+}
+
+JobFolders FoldersOf(const FormModel& form) {
+    return {form.dxSource.text(), form.dxDest.text(), form.dxMonitorPath.text(), DemandsOnFolders(form)};
 }
 
 void ApplyDestinationPath(FormModel& form) {
@@ -155,8 +158,8 @@ void RefreshPathTexts(FormModel& form) {
         field->ToolTipText = field->text();
 }
 
-std::optional<PathFinding> CheckPaths(const FormModel& form, const FileSystem& files) {
-    return PathCheck(form, files).run();
+std::optional<PathFinding> CheckPaths(const JobFolders& folders, const FileSystem& files) {
+    return PathCheck(folders, files).run();
 }
 
 }  // namespace kestedit

@@ -3,8 +3,8 @@
 
 #include <optional>
 
-#include "editor/FolderDemands.h"
 #include "editor/FormModel.h"
+#include "editor/JobFolders.h"
 #include "platform/FileSystem.h"
 
 namespace kestedit {
@@ -21,6 +21,7 @@ void RefreshPathTexts(FormModel& form);
 
 /// What the job's present choices want from its folders.
 [[nodiscard]] FolderDemands DemandsOnFolders(const FormModel& form);
+[[nodiscard]] JobFolders FoldersOf(const FormModel& form);
 
 /// What the path check found, in the order in which findings are looked for; the first one is shown.
 enum class PathFinding {
@@ -44,8 +45,8 @@ enum class PathFinding {
 
 /// Looks at source, destination (when the action has one) and monitored folder (when the schedule uses it). The whole
 /// look takes two seconds at most: a folder that has not answered by then is given up, and so are those behind it; what
-/// could be found out about the others comes first. A path is taken as it stands, without variables or wildcards. Never
-/// changes the form.
-[[nodiscard]] std::optional<PathFinding> CheckPaths(const FormModel& form, const FileSystem& files);
+/// could be found out about the others comes first. A path is taken as it stands, without variables or wildcards. May
+/// run on any thread.
+[[nodiscard]] std::optional<PathFinding> CheckPaths(const JobFolders& folders, const FileSystem& files);
 
 }  // namespace kestedit

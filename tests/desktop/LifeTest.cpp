@@ -1,5 +1,7 @@
 // A window's life: first paint, failures, end, and what it remembers.
 #include <QSplitter>
+#include <QThread>
+#include <future>
 
 #include "tests/desktop/WindowFixture.h"
 
@@ -15,7 +17,23 @@ TEST_F(Life, ChecksRunAfterTheFirstPaint) {
     early.show();
     settle();
     EXPECT_FALSE(form().isTimerRunning());
-    EXPECT_TRUE(at("lblChkPathMsg").Visible);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return at("lblChkPathMsg").Visible; }));
+}
+
+TEST(BackgroundWork, IsNotWaitedForAndIsFollowedOnTheWindowsThread) {
+    std::promise<void> answer;
+    const QThread* followedOn = nullptr;
+    auto background = std::make_unique<Background>();
+    background->run([&] { answer.get_future().wait(); }, [&] { followedOn = QThread::currentThread(); });
+    QCoreApplication::processEvents();
+    EXPECT_EQ(followedOn, nullptr);
+    answer.set_value();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return followedOn != nullptr; }));
+    EXPECT_EQ(followedOn, QThread::currentThread());
+    background->run([] {}, [&] { followedOn = nullptr; });
+    background.reset();
+    QCoreApplication::processEvents();
+    EXPECT_NE(followedOn, nullptr) << "nothing follows when the window has gone";
 }
 
 TEST_F(Life, OpensAtTheNameAndItsCloseBoxCancelsNothing) {
@@ -69,10 +87,10 @@ TEST_F(Life, SizeSplitterAndPageAreRememberedPerUser) {
     EXPECT_EQ(window().findChild<QSplitter*>()->sizes().front(), width);
     EXPECT_EQ(visibleFrames(), "fraFiles");
     EXPECT_EQ(window().currentPage()->widget()->objectName(), "fraFiles");
-    // A new job starts at its name all the same, and other views count their pages apart.
-    open("New");
-    EXPECT_EQ(visibleFrames(), "fraComment");
+    // Other views count their pages apart, and a new job starts at its name all the same.
     openJob("Backup", 15);
+    EXPECT_EQ(visibleFrames(), "fraComment");
+    open("New");
     EXPECT_EQ(visibleFrames(), "fraComment");
 }
 

@@ -57,7 +57,7 @@ struct PathRules : test::EditorTest {
     Finding check(const std::string& source, const std::string& destination) {
         form().dxSource.EditValue = path(source);
         form().dxDest.EditValue = path(destination);
-        return CheckPaths(form(), folders);
+        return CheckPaths(FoldersOf(form()), folders);
     }
 
     OddFolders folders;
@@ -177,6 +177,25 @@ TEST_F(Findings, AppearWithTheTimerAndFollowTheirChoices) {
     choose("optIntervall", 2);
     choose("optMonitorPath", 2);
     EXPECT_EQ(shown(), "Es ist kein überwachter Ordner angegeben.|");
+}
+
+TEST_F(Findings, OfALookThatEndsLateAreDropped) {
+    create();
+    std::vector<std::function<void()>> looks;
+    form().lookInBackground([&](const auto& look, const auto& show) {
+        looks.emplace_back([look, show] {
+            look();
+            show();
+        });
+    });
+    form().onTimer();
+    type("dxSource", jobs.string());
+    form().onEditingFinished(form().dxSource);
+    ASSERT_EQ(looks.size(), 2U);
+    EXPECT_FALSE(form().lblChkPathMsg.Visible);
+    looks[1]();
+    looks[0]();
+    EXPECT_EQ(form().lblChkPathMsg.Caption, "Für diese Aktion ist kein Zielverzeichnis angegeben.");
 }
 
 }  // namespace

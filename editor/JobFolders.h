@@ -1,5 +1,7 @@
-// Which folders a job needs, and for what.
+// The folders of a job, and what it needs them for.
 #pragma once
+
+#include <string>
 
 namespace kestedit {
 
@@ -10,6 +12,16 @@ struct FolderDemands {
     bool writableSource = false;  ///< it deletes files at the source, or writes to it
 
     bool operator==(const FolderDemands&) const = default;
+};
+
+/// As the path fields name them.
+struct JobFolders {
+    std::string source;
+    std::string destination;
+    std::string monitored;
+    FolderDemands demands;
+
+    bool operator==(const JobFolders&) const = default;
 };
 
 }  // namespace kestedit
