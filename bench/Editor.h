@@ -5,9 +5,9 @@
 #include <functional>
 #include <stdexcept>
 #include <string>
-#include <unistd.h>
 #include <utility>
 
+#include "bench/Folder.h"
 #include "component/clsEdit.h"
 #include "editor/dlgNewFolder.h"
 #include "editor/frmEdit.h"
@@ -38,16 +38,6 @@ class Driver final : public ModalRun {
 
 class Editor {
   public:
-    Editor() : folder_(std::filesystem::temp_directory_path() / ("kestedit-bench-" + std::to_string(getpid()))) {
-        std::filesystem::create_directories(folder_);
-    }
-    ~Editor() {
-        std::error_code ignored;
-        std::filesystem::remove_all(folder_, ignored);
-    }
-    Editor(const Editor&) = delete;
-    Editor& operator=(const Editor&) = delete;
-
     /// Shows the editor in that mode; "Edit" opens the job "full" of the folder.
     void show(const char* mode, std::function<void(frmEdit&)> work) {
         Driver driver(std::move(work));
@@ -62,7 +52,8 @@ class Editor {
     }
 
   private:
-    std::filesystem::path folder_;
+    const Folder own_;
+    const std::filesystem::path& folder_ = own_.path();
     IniStore ini_;
     LocalFileSystem files_;
     SystemClock clock_;

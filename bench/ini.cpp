@@ -2,17 +2,14 @@
 // to a million keys. Each file lies in a folder of its own; KESTEDIT_BENCH_DIR chooses where (a memory file system
 // tells most, a disk adds its own noise).
 #include <benchmark/benchmark.h>
-#include <chrono>
 #include <cstdint>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <stdexcept>
 #include <string>
 #include <sys/resource.h>
-#include <thread>
 #include <vector>
 
+#include "bench/Folder.h"
 #include "platform/IniStore.h"
 
 namespace {
@@ -20,43 +17,15 @@ namespace {
 namespace fs = std::filesystem;
 using kestedit::IniStore;
 using kestedit::StagedFile;
+using kestedit::bench::Folder;
+using kestedit::bench::letAge;
 
-/// A store reads a file that has just changed anew every time; files in use are older than that.
-void letAge() {
-    std::this_thread::sleep_for(std::chrono::milliseconds{100});
-}
-
-/// A folder that goes when the program ends.
-class Folder {
-  public:
-    Folder() {
-        const char* chosen = std::getenv("KESTEDIT_BENCH_DIR");
-        std::string pattern =
-            (chosen == nullptr ? fs::temp_directory_path() : fs::path(chosen)) / "kestedit-bench-XXXXXX";
-        if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no folder for the files");
-        path_ = pattern;
-    }
-    ~Folder() {
-        std::error_code ignored;
-        fs::remove_all(path_, ignored);
-    }
-    Folder(const Folder&) = delete;
-    Folder& operator=(const Folder&) = delete;
-
-    [[nodiscard]] fs::path file(const std::string& name, const std::string& bytes) const {
-        fs::path path = path_ / name;
-        std::ofstream(path, std::ios::binary) << bytes;
-        letAge();
-        return path;
-    }
-
-  private:
-    fs::path path_;
-};
-
-const Folder& folder() {
+fs::path fileOf(const std::string& name, const std::string& bytes) {
     static const Folder folder;
-    return folder;
+    fs::path path = folder.path() / name;
+    std::ofstream(path, std::ios::binary) << bytes;
+    letAge();
+    return path;
 }
 
 std::vector<std::string> names(const std::string& prefix, int count) {
@@ -73,7 +42,7 @@ const fs::path& languageFile() {
         std::string bytes = "; language file\r\n[frmEdit]\r\n";
         for (const std::string& name : names("t", 230))
             bytes.append(name).append("=Text of the editor, and with a few words more\r\n");
-        return folder().file("language.lng", bytes);
+        return fileOf("language.lng", bytes);
     }();
     return path;
 }
@@ -84,14 +53,14 @@ const fs::path& jobFile() {
         std::string bytes = "[Info]\r\nProgVersion=1.00.00\r\n[Job]\r\n";
         for (const std::string& name : names("ZipKeyName", 125))
             bytes.append(name).append("=value of this key\r\n");
-        return folder().file("job.job", bytes);
+        return fileOf("job.job", bytes);
     }();
     return path;
 }
 
 /// Lines of 23 bytes, 100 to a section. Written line by line, because peak memory is measured.
 fs::path largeFile(std::int64_t keys) {
-    fs::path path = folder().file("large" + std::to_string(keys) + ".ini", "");
+    fs::path path = fileOf("large" + std::to_string(keys) + ".ini", "");
     std::ofstream stream(path, std::ios::binary);
     for (std::int64_t i = 0; i < keys; ++i) {
         if (i % 100 == 0) stream << "[Section" << i / 100 << "]\n";

@@ -3,16 +3,15 @@
 #include <benchmark/benchmark.h>
 #include <chrono>
 #include <cstdio>
-#include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
 #include <string>
-#include <thread>
 #include <unistd.h>
 
+#include "bench/Folder.h"
 #include "persistence/JobStore.h"
 #include "persistence/modGetValues.h"
 #include "persistence/modSaveValues.h"
@@ -26,33 +25,20 @@ using namespace kestedit;
 const DateFormat dates{"dd.MM.yyyy"};
 const LocalTime now{dateOf(2026, 11, 21), std::chrono::hours{14}};
 
-/// A folder with one full job, gone when the program ends.
+/// A folder with one full job.
 class JobFolder {
   public:
     JobFolder() {
-        const char* chosen = std::getenv("KESTEDIT_BENCH_DIR");
-        std::string pattern =
-            (chosen == nullptr ? fs::temp_directory_path() : fs::path(chosen)) / "kestedit-bench-XXXXXX";
-        if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no folder for the job");
-        path_ = pattern;
         FilledForm form;
         form.fill();
         IniStore ini;
         JobStore{ini}.write(job(), SaveValues(form, dates, now), JobStore::Write::create);
-        // A store reads a file that has just changed anew every time; files in use are older than that.
-        std::this_thread::sleep_for(std::chrono::milliseconds{100});
+        bench::letAge();
     }
-    ~JobFolder() {
-        std::error_code ignored;
-        fs::remove_all(path_, ignored);
-    }
-    JobFolder(const JobFolder&) = delete;
-    JobFolder& operator=(const JobFolder&) = delete;
-
-    [[nodiscard]] fs::path job() const { return path_ / "full.job"; }
+    [[nodiscard]] fs::path job() const { return folder_.path() / "full.job"; }
 
   private:
-    fs::path path_;
+    bench::Folder folder_;
 };
 
 void loadInto(FormModel& form, const JobStore& jobs, const fs::path& file) {

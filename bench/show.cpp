@@ -1,8 +1,6 @@
 // What opening the editor costs without a window: Show from the creation of the form to the moment where it is ready,
 // with a full job and a language file, and the rule pass alone.
 #include <benchmark/benchmark.h>
-#include <chrono>
-#include <thread>
 
 #include "bench/Editor.h"
 #include "editor/rules/RefreshPageStates.h"
@@ -17,8 +15,7 @@ void saveFullJob(Editor& editor) {
         form.onTextTyped(form.dxName, "full");
         form.onCommand(form.cmdSave);
     });
-    // A file that has just changed is looked at again with every read; files in use are older.
-    std::this_thread::sleep_for(std::chrono::milliseconds{100});
+    bench::letAge();
 }
 
 void showNewJob(benchmark::State& state) {

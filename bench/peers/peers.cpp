@@ -16,12 +16,14 @@
 #include <unistd.h>
 #include <vector>
 
+#include "bench/Folder.h"
 #include "bench/peers/Peer.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 using namespace bench;
+using kestedit::bench::Folder;
 using Clock = std::chrono::steady_clock;
 
 enum class Place { memory, disk };
@@ -202,26 +204,6 @@ void printRow(const Work& work, const std::vector<double>& found) {
     std::snprintf(ratios.data(), ratios.size(), "%.2f", found[1] / best);
     std::cout << " | " << (best < 0 ? "-" : ratios.data()) << " | " << work.goal << " |" << std::endl;
 }
-
-/// A folder that goes when the program ends.
-class Folder {
-  public:
-    explicit Folder(const fs::path& parent) {
-        std::string pattern = fs::absolute(parent) / "kestedit-peers-XXXXXX";
-        if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no folder in " + parent.string());
-        path_ = pattern;
-    }
-    ~Folder() {
-        std::error_code ignored;
-        fs::remove_all(path_, ignored);
-    }
-    Folder(const Folder&) = delete;
-    Folder& operator=(const Folder&) = delete;
-    [[nodiscard]] const fs::path& path() const { return path_; }
-
-  private:
-    fs::path path_;
-};
 
 }  // namespace
 
