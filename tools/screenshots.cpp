@@ -164,7 +164,8 @@ int main(int count, char** arguments) try {
     if (words.size() != 5)
         throw std::invalid_argument("usage: screenshots JOB VIEW LANGUAGE light|dark|contrast FOLDER");
     const Wish wish{words[0], words[1], words[2], words[3], words[4]};
-    QApplication::setStyle(new OutlineStyle);
+    QApplication::setStyle("fusion");
+    OutlineStyle::improveFusion();
     QApplication::setFont(QFont("DejaVu Sans", 10));
     QApplication::setPalette(paletteOf(wish.palette));
     QLocale::setDefault(wish.language.stem() == "german" ? QLocale("de_DE") : QLocale("en_GB"));

@@ -9,7 +9,8 @@ int main(int count, char** arguments) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     testing::InitGoogleTest(&count, arguments);
     QApplication application(count, arguments);
-    QApplication::setStyle(new kestedit::OutlineStyle);
+    QApplication::setStyle("fusion");
+    kestedit::OutlineStyle::improveFusion();
     QApplication::setFont(QFont("DejaVu Sans", 10));
     return RUN_ALL_TESTS();
 }
