@@ -20,7 +20,7 @@ namespace {
 class CInterfaceTest : public testing::Test {
   protected:
     CInterfaceTest() : editor_(create()) {}
-    ~CInterfaceTest() override { kestEdit_release(editor_); }
+    void TearDown() override { kestEdit_release(editor_); }
 
     kestEdit_Handle create() {
         kestEdit_Handle editor = 0;
