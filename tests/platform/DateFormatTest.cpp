@@ -40,13 +40,10 @@ TEST(DateFormat, refusesPatternsThatAreNoDate) {
 }
 
 TEST(DateFormat, theUsersLocaleGivesAPatternWithFourDigitsOfTheYear) {
-    const char* before = std::getenv("LC_ALL");
-    const std::optional<std::string> saved = before == nullptr ? std::nullopt : std::optional<std::string>(before);
     setenv("LC_ALL", "C", 1);
     EXPECT_EQ(DateFormat::ofUserLocale().pattern(), "MM/dd/yyyy");
     setenv("LC_ALL", "xx_none", 1);
     EXPECT_EQ(DateFormat::ofUserLocale().pattern(), "yyyy-MM-dd");
-    saved ? setenv("LC_ALL", saved->c_str(), 1) : unsetenv("LC_ALL");
 }
 
 TEST(Time, readsTimesOfDayStrictly) {

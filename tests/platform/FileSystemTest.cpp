@@ -1,5 +1,4 @@
 #include <chrono>
-#include <cstdlib>
 #include <future>
 #include <gtest/gtest.h>
 #include <string>
@@ -29,7 +28,6 @@ TEST_F(Files, tellsFilesFromFolders) {
     EXPECT_FALSE(files_.FolderExists(file));
     EXPECT_FALSE(files_.FileExists(folder_.path()));
     EXPECT_TRUE(files_.FolderExists(folder_.path()));
-    EXPECT_FALSE(files_.FileExists(file / "below"));
     EXPECT_FALSE(files_.inspectFolder(file, 10s).exists);
     fs::create_symlink("loop", folder_.path() / "loop");
     EXPECT_THROW(static_cast<void>(files_.FileExists(folder_.path() / "loop")), fs::filesystem_error);
@@ -42,16 +40,9 @@ TEST_F(Files, tellsFilesFromFolders) {
     EXPECT_TRUE(files_.inspectFolder(folder_.path(), 10s).writable);
 }
 
-TEST_F(Files, failuresNameOperationAndPath) {
+TEST_F(Files, whatCannotBeDoneIsAFailure) {
     EXPECT_THROW(files_.CreateFolder(folder_.path() / "x" / "y"), fs::filesystem_error);
     EXPECT_THROW(files_.DeleteFile(folder_.path()), fs::filesystem_error);
-    const fs::path none = folder_.path() / "none";
-    try {
-        files_.DeleteFile(none);
-        FAIL();
-    } catch (const fs::filesystem_error& error) {
-        EXPECT_EQ(error.what(), "filesystem error: delete file: No such file or directory [" + none.string() + "]");
-    }
 }
 
 TEST_F(Files, joinsAndTakesApartPaths) {
@@ -63,18 +54,14 @@ TEST_F(Files, joinsAndTakesApartPaths) {
 }
 
 TEST(Patience, anAnswerThatDoesNotComeCostsNoMoreThanThePatience) {
-    std::promise<void> wakeUp;
-    const std::shared_future<void> awake = wakeUp.get_future().share();
-    const auto sleeper = [awake] {
-        awake.wait();
-        return 1;
-    };
+    std::promise<int> wakeUp;
+    const std::shared_future<int> sleeper = wakeUp.get_future().share();
     for (int i = 0; i < mostQuestions; ++i)
-        EXPECT_EQ(answerWithin(1ms, sleeper), std::nullopt);
+        EXPECT_EQ(answerWithin(1ms, [sleeper] { return sleeper.get(); }), std::nullopt);
     EXPECT_EQ(answerWithin(10s, [] { return 2; }), std::nullopt) << "no more threads for a system that hangs";
     EXPECT_FALSE(LocalFileSystem().inspectFolder("/", 10s).answered);
     EXPECT_EQ(LocalFileSystem().resolve("/a/../b/", 10s), "/b");
-    wakeUp.set_value();
+    wakeUp.set_value(1);
     while (questionsUnderWay > 0)
         std::this_thread::yield();
     EXPECT_EQ(answerWithin(10s, [] { return 3; }), 3);
@@ -83,12 +70,9 @@ TEST(Patience, anAnswerThatDoesNotComeCostsNoMoreThanThePatience) {
 TEST_F(Files, twoSpellingsOfOneFolderResolveToOnePath) {
     fs::create_directory(folder_.path() / "real");
     fs::create_symlink("real", folder_.path() / "link");
-    fs::create_symlink("loop", folder_.path() / "loop");
     const fs::path real = fs::canonical(folder_.path()) / "real";
     EXPECT_EQ(files_.resolve(folder_.path() / "link" / ".." / "real" / "", 10s), real);
     EXPECT_EQ(files_.resolve(folder_.path() / "link" / "new" / "." / "x", 10s), real / "new" / "x");
-    EXPECT_EQ(files_.resolve(folder_.path() / "loop" / "." / "x", 10s), folder_.path() / "loop" / "x");
-    EXPECT_EQ(files_.resolve("", 10s), "");
     EXPECT_EQ(files_.resolve("/", 10s), "/");
 }
 
@@ -99,15 +83,6 @@ TEST_F(Files, userSettingsCreateFolderAndFile) {
     EXPECT_EQ(settings.read("options", "bgcolor", "none"), "\u20AC \u0416");
     EXPECT_EQ(UserSettingsFile(folder_.file("file", "") / "b" / "user.ini").write("S", "k", "v"),
               std::errc::not_a_directory);
-}
-
-TEST(UserFolders, aRelativePathOfTheEnvironmentIsNoFolder) {
-    setenv("XDG_CONFIG_HOME", "/config", 1);
-    setenv("XDG_DATA_HOME", "relative", 1);
-    EXPECT_EQ(userFolders().config, "/config/kestedit");
-    EXPECT_TRUE(userFolders().data.is_absolute());
-    unsetenv("XDG_CONFIG_HOME");
-    unsetenv("XDG_DATA_HOME");
 }
 
 }  // namespace
