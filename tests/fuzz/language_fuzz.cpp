@@ -2,38 +2,32 @@
 // read.
 #include "editor/FormModel.h"
 #include "i18n/LoadLanguage.h"
-#include "tests/fuzz/MemoryFile.h"
-
-namespace {
+#include "tests/fuzz/Fuzzing.h"
 
 using namespace kestedit;
 using test::require;
 
-void requireText(const CodePage& page, const std::string& text) {
-    const auto bytes = page.encode(text);
-    require(bytes.has_value(), "a text is UTF-8 that the code page knows");
-    require(bytes->size() <= textSize, "a text is cut, and may have one blank behind it");
-}
-
-}  // namespace
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const test::MemoryFile file;
     const CodePage page(size > 0 && data[0] % 2 == 0 ? CodePage::western : CodePage::utf8);
     IniStore ini(page);
     ComponentValues values;
-    values.Language = file.with({reinterpret_cast<const char*>(data), size});
+    values.Language = test::fileOf({reinterpret_cast<const char*>(data), size});
     const auto reading = ini.readScope();
     FormModel form;
     LoadLanguage(form, modIniHandler(ini, values));
 
+    const auto requireText = [&page](const std::string& text) {
+        const auto bytes = page.encode(text);
+        require(bytes.has_value(), "a text is UTF-8 that the code page knows");
+        require(bytes->size() <= textSize, "a text is cut, and may have one blank behind it");
+    };
     require(form.TextCatalogue.size() == 85, "the catalogue has all its entries");
     for (const std::string& text : form.TextCatalogue)
-        requireText(page, text);
+        requireText(text);
     for (const EditorControl* control : form.controls()) {
-        requireText(page, control->Caption);
+        requireText(control->Caption);
         for (const std::string& item : control->Items)
-            requireText(page, item);
+            requireText(item);
     }
     return 0;
 }

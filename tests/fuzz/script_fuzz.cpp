@@ -4,7 +4,7 @@
 #include "host/ScriptEvents.h"
 #include "host/ScriptParser.h"
 #include "host/ScriptText.h"
-#include "tests/fuzz/MemoryFile.h"
+#include "tests/fuzz/Fuzzing.h"
 
 using namespace kestedit;
 
@@ -23,9 +23,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             printed += quotedText(word) + ' ';
         printed += '\n';
     }
-    const auto again = parseScript(printed);
-    const auto sameWords = [](const ScriptLine& left, const ScriptLine& right) { return left.words == right.words; };
-    test::require(std::ranges::equal(good, again, sameWords), "words come back from their printed form");
+    const bool same = std::ranges::equal(good, parseScript(printed), {}, &ScriptLine::words, &ScriptLine::words);
+    test::require(same, "words come back from their printed form");
     static_cast<void>(compileScript(lines));
     return 0;
 }
