@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -15,11 +16,11 @@ using Files = std::map<std::string, std::string>;
 
 /// One run of `kestedit script`.
 struct Call {
-    std::string target;       ///< "new", or the edited job's path in the folder of the jobs
-    std::string script;       ///< its lines
-    std::string faults = "";  ///< "12:EIO,15:kill-after", by the number of the call
-    long clock = 0;           ///< seconds by which the program's clock is ahead
-    std::string move = "";    ///< "from:to", what another process does at a fault "replace"
+    std::string target;                    ///< "new", or the edited job's path in the folder of the jobs
+    std::string script;                    ///< its lines
+    std::string faults = "";               ///< "12:EIO 15:kill-after", by the number of the call
+    long clock = 0;                        ///< seconds by which the program's clock is ahead
+    std::function<void()> meanwhile = {};  ///< runs while the program is held up by a fault "stop"
 };
 
 struct Outcome {
@@ -33,23 +34,19 @@ class SavingProgram {
   public:
     SavingProgram();
 
-    [[nodiscard]] const std::filesystem::path& root() const { return folder_.path(); }
-    [[nodiscard]] std::filesystem::path jobs() const { return folder_.path() / "jobs"; }
-
+    [[nodiscard]] std::filesystem::path jobs() const { return root_ / "jobs"; }
+    [[nodiscard]] const TemporaryFolder& folder() const { return folder_; }
     [[nodiscard]] Outcome run(const Call& call) const;
-
-    /// What the folder of the jobs holds, temporary files apart.
     [[nodiscard]] Files files() const;
-    [[nodiscard]] std::size_t temporaries() const;
     /// Makes the folder hold these files and nothing else.
     void restore(const Files& files) const;
 
   private:
     TemporaryFolder folder_;
+    std::filesystem::path root_;
 };
 
-/// The keys of a job by "SECTION/KEY", read by rules of the test's own; throws std::runtime_error when a line is broken
-/// or the job is not whole.
-[[nodiscard]] std::map<std::string, std::string> wholeJob(const std::string& bytes);
+/// Why the bytes are no whole job, by rules of the test's own; empty for one that is.
+[[nodiscard]] std::string faultOf(const std::string& bytes);
 
 }  // namespace kestedit::test

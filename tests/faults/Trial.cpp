@@ -1,235 +1,255 @@
 #include "tests/faults/Trial.h"
 
 #include <algorithm>
-#include <fstream>
+#include <cstring>
 #include <iostream>
-#include <iterator>
 #include <span>
+#include <sys/inotify.h>
+#include <unistd.h>
 
 namespace kestedit::test {
+
+namespace fs = std::filesystem;
 
 namespace {
 
 /// A short run tries one of them on each call, in turn.
 constexpr std::string_view errors[] = {"ENOSPC", "EIO", "EACCES", "EROFS", "EDQUOT", "EMFILE", "ENOMEM"};
-constexpr std::string_view kills[] = {"kill-before", "kill-after"};
-constexpr std::string_view transfers[] = {"read", "write"};
+constexpr std::string_view transfers[] = {"read", "writev"};
 /// A call that a signal interrupts is made again, so its failure must be none of the save's.
-constexpr std::string_view interruptible[] = {"open", "read", "write", "fsync", "close", "rename", "unlink"};
+constexpr std::string_view interruptible[] = {"open", "read", "writev", "fsync", "close", "rename", "unlink"};
 /// A save that goes on when one of these has failed, up to its last rename, has lost data.
-constexpr std::string_view indispensable[] = {"write", "fsync", "rename"};
+constexpr std::string_view indispensable[] = {"writev", "fsync", "rename"};
+/// Faults that have none of these to hit do not reach the save.
+constexpr std::string_view needed[] = {"lstat", "open", "writev", "fsync", "close", "rename"};
+
+/// What the kernel tells of a call.
+constexpr std::pair<std::uint32_t, std::string_view> events[] = {{IN_OPEN, "open"},       {IN_ACCESS, "read"},
+                                                                 {IN_MODIFY, "writev"},   {IN_CLOSE, "close"},
+                                                                 {IN_MOVED_TO, "rename"}, {IN_DELETE, "unlink"}};
 
 bool isOneOf(std::string_view word, std::span<const std::string_view> words) {
     return std::ranges::find(words, word) != words.end();
 }
 
-}  // namespace
-
-void report(std::string_view where, const std::string& what) {
-    std::cerr << "faults: " << where << ": " << what << '\n';
-    ++findings;
-}
-
-Counts& Counts::operator+=(const Counts& other) {
-    for (int Counts::*const field : {&Counts::calls, &Counts::faults, &Counts::oldKept, &Counts::newStands,
-                                     &Counts::killedOld, &Counts::killedNew, &Counts::oldMoved}) {
-        this->*field += other.*field;
+/// How many calls of each name the kernel saw at the files of a folder while `run` ran. Equal events in a row are one.
+Counts seenDuring(const fs::path& folder, const std::function<void()>& run) {
+    const int watch = ::inotify_init1(IN_CLOEXEC | IN_NONBLOCK);
+    for (const char* const part : {".", "elsewhere"})
+        (void)::inotify_add_watch(watch, (folder / part).c_str(), IN_ALL_EVENTS);
+    run();
+    std::string bytes(65536, '\0');
+    bytes.resize(static_cast<std::size_t>(std::max<ssize_t>(::read(watch, bytes.data(), bytes.size()), 0)));
+    ::close(watch);
+    Counts seen;
+    inotify_event event{};
+    for (std::size_t at = 0; at < bytes.size(); at += sizeof event + event.len) {
+        std::memcpy(&event, &bytes[at], sizeof event);
+        if (event.len > 0 && (event.mask & IN_ISDIR) != 0) continue;  // a folder inside, which is watched itself
+        for (const auto& [kind, name] : events)
+            seen[name] += (event.mask & kind) != 0 ? 1 : 0;
     }
-    return *this;
+    return seen;
 }
+
+std::size_t takeTemporaries(Files& files) {
+    return std::erase_if(files, [](const auto& file) { return file.first.find(".kestedit-") != std::string::npos; });
+}
+
+/// One kind of save in the folder of one program.
+class Trial {
+  public:
+    Trial(const SavingProgram& program, const Scenario& scenario);
+
+    void fail(std::size_t number, std::string_view action);
+    void failTwice(std::size_t number);
+    Outcome tryFaults(const std::string& faults, std::string_view second = {});
+    void replace(std::size_t number) const;
+
+    std::vector<std::string> calls;  // of a run without a fault, from the start of the program
+    std::size_t firstCall = 0;       // of the save, by number
+    Counts counts;
+
+  private:
+    void createJobs();
+    [[nodiscard]] Call callOf(const std::string& faults, const char* end = saveLine) const;
+    void complain(const std::string& faults, const std::string& what) const;
+    void requireWhole(const std::string& faults, const Files& files) const;
+    void saveAgain(const std::string& faults, const Files& now, std::size_t litter) const;
+
+    const SavingProgram& program_;
+    const Scenario& scenario_;
+    std::string edited_{scenario_.edited};
+    std::string target_{scenario_.target};
+    Files before_;
+    Files after_;
+    Files moved_;  // in the middle of a rename: the old job under its new name
+};
 
 Trial::Trial(const SavingProgram& program, const Scenario& scenario) : program_(program), scenario_(scenario) {
-    before_ = filesBefore();
-    Outcome unsaved = attempt("", false);
-    firstCall_ = unsaved.calls.size() + 1;
-    Outcome clean = attempt("");
+    createJobs();
+    firstCall = program_.run(callOf("", "")).calls.size() + 1;
+    Outcome clean;
+    const Counts seen = seenDuring(program_.jobs(), [&] { clean = program_.run(callOf("")); });
+    calls = clean.calls;
     after_ = program_.files();
-    calls_ = std::move(clean.calls);
-    counts_.calls = static_cast<int>(calls_.size() - firstCall_ + 1);
-    if (clean.code != 0) report(scenario.title, "fails without a fault: " + clean.error);
-    if (after_ == before_) report(scenario.title, "saves nothing");
-    for (const auto& [name, bytes] : after_)
-        checkWhole("no fault", bytes);
-    for (const char* const needed : {"open", "write", "fsync", "rename", "close", "stat"}) {
-        if (std::ranges::find(calls_, needed) == calls_.end())
-            report(scenario.title, "no call seen to " + std::string(needed));
+    moved_ = before_;
+    if (before_.contains(edited_) && !after_.contains(edited_)) {
+        moved_[target_] = before_.at(edited_);
+        moved_.erase(edited_);
+    }
+    counts["calls"] = static_cast<int>(calls.size() - firstCall + 1);
+    if (clean.code != 0) complain("no fault", "fails: " + clean.error);
+    if (after_ == before_) complain("no fault", "saves nothing");
+    // A call by a function that the faults do not know would never fail, and so all this prove nothing.
+    for (const std::string_view name : needed) {
+        if (std::ranges::count(calls, name) == 0) complain("no fault", "no call to " + std::string(name));
+    }
+    if (seen.empty()) complain("no fault", "the kernel tells nothing");
+    for (const auto& [name, count] : seen) {
+        if (count > std::ranges::count(calls, name)) complain("no fault", "a hidden call like " + std::string(name));
     }
 }
 
-Counts Trial::run(bool full) {
-    for (std::size_t number = firstCall_; number <= calls_.size(); ++number) {
-        for (std::size_t i = 0; i < std::size(errors); ++i) {
-            if (full || i == number % std::size(errors)) fail(number, errors[i]);
-        }
-        fail(number, "EINTR");
-        if (isOneOf(calls_[number - 1], transfers)) fail(number, "short");
-        for (const std::string_view kill : kills)
-            (void)tryFaults(std::to_string(number) + ':' + std::string(kill));
-        if (full) failTwice(number);
-    }
-    return counts_;
-}
-
-/// Another process puts another job in the place of the edited one, ahead of each call of the save.
-int Trial::replaceMeanwhile() const {
-    const std::string note = "[Other]\r\nNote=1\r\n";
-    const std::string name(scenario_.target);
-    const std::string foreign = before_.at(name) + note;
-    for (std::size_t number = firstCall_; number <= calls_.size(); ++number) {
-        program_.restore(before_);
-        const auto foreignFile = program_.root() / "foreign";
-        std::ofstream(foreignFile, std::ios::binary) << foreign;
-        Call call = callOf(std::to_string(number) + ":replace", true);
-        call.move = foreignFile.string() + ':' + (program_.jobs() / name).string();
-        const Outcome outcome = program_.run(call);
-        const Files now = program_.files();
-        const std::string& bytes = now.at(name);
-        const bool updated = bytes == after_.at(name) + note;
-        const bool whole = updated || bytes == after_.at(name) || bytes == foreign;
-        const std::string where = std::string(scenario_.title) + ", replaced before call " + std::to_string(number);
-        if (outcome.code != 0) report(where, outcome.error);
-        if (!whole || now.size() != before_.size() || program_.temporaries() != 0) report(where, "not whole");
-        if (number == firstCall_ && !updated) report(where, "the lines of the other process are lost");
-    }
-    return counts_.calls;
-}
-
-Files Trial::filesBefore() const {
+void Trial::createJobs() {
     program_.restore({});
-    const auto create = [&](const std::string& name) {
-        const Outcome made = program_.run({"new", "type dxName " + name + "\ntype dxSource /from/" + name +
-                                                      "\ntype dxDest /old\nanswer ok\n" + std::string(saveLine)});
-        if (made.code != 0) report(scenario_.title, "no job to begin with: " + made.error);
-    };
-    for (const char other : scenario_.others)
-        create(std::string(1, other));
-    if (!scenario_.edited.empty()) create("a");
-    Files files = program_.files();
-    if (scenario_.edited == "link.job") {
-        files["elsewhere/a.job"] = files["a.job"];
-        files.erase("a.job");
-        files["link.job"] = "-> elsewhere/a.job";
+    for (const std::string name : {"a", "b"}) {
+        const std::string lines = "type dxName " + name + "\ntype dxSource /from/" + name + "\ntype dxDest /old\n";
+        (void)program_.run({"new", lines + "answer ok\n" + saveLine});
     }
-    return files;
+    before_ = program_.files();
+    if (edited_ == "link.job") {
+        before_["elsewhere/a.job"] = before_["a.job"];
+        before_.erase("a.job");
+        before_["link.job"] = "-> elsewhere/a.job";
+        program_.restore(before_);
+    }
 }
 
-Call Trial::callOf(const std::string& faults, bool save) const {
-    std::string lines(scenario_.lines);
-    if (save) lines += saveLine;
-    return {scenario_.edited.empty() ? "new" : std::string(scenario_.edited), lines, faults, scenario_.clock};
+Call Trial::callOf(const std::string& faults, const char* end) const {
+    return {edited_.empty() ? "new" : edited_, std::string(scenario_.lines) + end, faults, scenario_.clock};
 }
 
-Outcome Trial::attempt(const std::string& faults, bool save) const {
-    program_.restore(before_);
-    return program_.run(callOf(faults, save));
+void Trial::complain(const std::string& faults, const std::string& what) const {
+    report(std::string(scenario_.title) + ", " + faults, what);
+}
+
+void Trial::requireWhole(const std::string& faults, const Files& files) const {
+    for (const auto& [name, bytes] : files) {
+        const std::string fault = bytes.starts_with("-> ") ? "" : faultOf(bytes);
+        if (!fault.empty()) complain(faults, name + ": " + fault);
+    }
 }
 
 void Trial::fail(std::size_t number, std::string_view action) {
+    const std::string_view call = calls[number - 1];
     const std::string fault = std::to_string(number) + ':' + std::string(action);
     const Outcome outcome = tryFaults(fault);
-    const bool interrupted = action == "short" || (action == "EINTR" && isOneOf(calls_[number - 1], interruptible));
-    if (interrupted && outcome.code != 0) report(where(fault), "an interruption fails the save: " + outcome.error);
-    const bool behindRename =
-        std::find(calls_.begin() + static_cast<std::ptrdiff_t>(number - 1), calls_.end(), "rename") == calls_.end();
-    if (!interrupted && !behindRename && isOneOf(calls_[number - 1], indispensable) && outcome.code == 0)
-        report(where(fault), "the failure is lost");
+    const bool interrupted = action == "short" || (action == "EINTR" && isOneOf(call, interruptible));
+    if (interrupted && outcome.code != 0) complain(fault, "an interruption fails the save: " + outcome.error);
+    const bool renameFollows = std::ranges::count(std::span(calls).subspan(number - 1), "rename") > 0;
+    const bool closesNewFile = call == "close" && number > 1 && calls[number - 2] == "fsync";
+    const bool losesData = closesNewFile || isOneOf(call, indispensable);
+    if (!interrupted && renameFollows && losesData && outcome.code == 0) complain(fault, "the failure is lost");
 }
 
 /// The calls that answer the first fault fail as well.
 void Trial::failTwice(std::size_t number) {
     const std::string first = std::to_string(number) + ":EIO";
-    const Outcome outcome = attempt(first);
+    program_.restore(before_);
+    const Outcome outcome = program_.run(callOf(first));
     for (std::size_t second = number + 1; second <= outcome.calls.size(); ++second) {
-        const std::string at = first + ',' + std::to_string(second) + ':';
-        for (const std::string_view action : {"EIO", "EACCES", "EINTR", "kill-before", "kill-after"})
-            (void)tryFaults(at + std::string(action), outcome.calls[second - 1]);
-    }
-}
-
-std::string Trial::where(const std::string& faults) const {
-    return std::string(scenario_.title) + ", " + faults;
-}
-
-void Trial::checkWhole(const std::string& faults, const std::string& bytes) const {
-    if (bytes.starts_with("-> ")) return;
-    try {
-        (void)wholeJob(bytes);
-    } catch (const std::exception& broken) {
-        report(where(faults), broken.what());
+        const std::string at = first + ' ' + std::to_string(second) + ':';
+        for (const char* const action : {"EIO", "EACCES", "EINTR", "kill-before", "kill-after"})
+            (void)tryFaults(at + action, outcome.calls[second - 1]);
     }
 }
 
 /// `second` is the call that fails behind the first, if one does.
 Outcome Trial::tryFaults(const std::string& faults, std::string_view second) {
-    Outcome outcome = attempt(faults);
-    const Files now = program_.files();
+    program_.restore(before_);
+    Outcome outcome = program_.run(callOf(faults));
+    Files now = program_.files();
+    const std::size_t litter = takeTemporaries(now);
     const bool killed = outcome.code < 0;
-    ++counts_.faults;
-    checkFiles(faults, now);
+    ++counts["faults"];
+    requireWhole(faults, now);
+    if (now == after_) {
+        ++counts[killed ? "killed at new" : "new stands"];
+    } else if (now == before_) {
+        ++counts[killed ? "killed at old" : "old kept"];
+    } else if (now == moved_) {
+        ++counts["old moved"];
+    } else {
+        complain(faults, "leaves other jobs than the old ones or the new ones");
+    }
     const bool mayLeaveLitter = killed || second == "unlink";
-    const std::size_t litter = program_.temporaries();
-    if (litter > (mayLeaveLitter ? 1U : 0U)) report(where(faults), "a temporary file stays");
-    if (outcome.code == 0 && now != after_) report(where(faults), "says that it saved, and did not");
-    if (outcome.code > 0 && now != before_ && second.empty()) report(where(faults), "fails, but not as before");
-    if (outcome.code > 0 && !outcome.error.starts_with("kestedit: ")) report(where(faults), "fails without a word");
-    count(killed, now);
+    if (litter > (mayLeaveLitter ? 1U : 0U)) complain(faults, "a temporary file stays");
+    if (outcome.code == 0 && now != after_) complain(faults, "says that it saved, and did not");
+    if (outcome.code > 0 && now != before_ && second.empty()) complain(faults, "fails, but not as before");
+    if (outcome.code > 0 && !outcome.error.starts_with("kestedit: ")) complain(faults, "fails without a word");
     saveAgain(faults, now, litter);
     return outcome;
 }
 
-void Trial::count(bool killed, const Files& now) {
-    if (now == after_) {
-        ++(killed ? counts_.killedNew : counts_.newStands);
-    } else if (now == before_) {
-        ++(killed ? counts_.killedOld : counts_.oldKept);
-    } else {
-        ++counts_.oldMoved;
-    }
-}
-
-/// Every file holds a whole job that was there before or is the new one, and no job is gone.
-void Trial::checkFiles(const std::string& faults, const Files& now) const {
-    bool jobIsThere = false;
-    for (const auto& [name, bytes] : now) {
-        checkWhole(faults, bytes);
-        const bool known = before_.contains(name) || after_.contains(name);
-        const bool unchanged = before_.contains(name) && before_.at(name) == bytes;
-        const bool isNew = after_.contains(name) && after_.at(name) == bytes;
-        const bool complete = unchanged || isNew || isMovedJob(name, bytes);
-        if (!known || !complete) report(where(faults), name + " is neither the old job nor the new one");
-        const bool involved = !before_.contains(name) || !after_.contains(name) || before_.at(name) != after_.at(name);
-        jobIsThere = jobIsThere || involved;
-    }
-    for (const auto& [name, bytes] : before_) {
-        if (after_.contains(name) && !now.contains(name)) report(where(faults), name + " is gone");
-    }
-    if (!scenario_.edited.empty() && !jobIsThere) report(where(faults), "the job is under neither name");
-}
-
-/// In the middle of a rename the old job stands under the new name.
-bool Trial::isMovedJob(const std::string& name, const std::string& bytes) const {
-    return name == scenario_.target && !before_.contains(name) && before_.contains(std::string(scenario_.edited)) &&
-           before_.at(std::string(scenario_.edited)) == bytes;
-}
-
 void Trial::saveAgain(const std::string& faults, const Files& now, std::size_t litter) const {
-    std::string name(scenario_.target);
-    Call call{name, "type dxDest /later\n" + std::string(saveLine)};
-    if (!now.contains(name)) {
-        name = scenario_.edited;
-        call.target = name;
-    }
-    if (!now.contains(name)) {
-        call = callOf("", true);
-        name = scenario_.target;
-    }
-    const std::string saved = call.target == "new" ? "\r\nTo=/new\r\n" : "\r\nTo=/later\r\n";
+    const std::string& job = now.contains(target_) ? target_ : edited_;
+    const bool again = job.empty();  // a new job that was not saved
+    const Outcome outcome =
+        program_.run(again ? callOf("") : Call{job, std::string("type dxDest /later\n") + saveLine});
+    Files saved = program_.files();
+    if (outcome.code != 0) complain(faults, "the next save fails: " + outcome.error);
+    if (takeTemporaries(saved) > litter) complain(faults, "the next save leaves a temporary file");
+    const std::string& bytes = bytesOf(program_.jobs() / (again ? target_ : job));
+    if (bytes.find(again ? "\r\nTo=/new\r\n" : "\r\nTo=/later\r\n") == std::string::npos)
+        complain(faults, "the next save is lost");
+    requireWhole(faults + ", next save", saved);
+}
+
+void Trial::replace(std::size_t number) const {
+    const std::string note = "[Other]\r\nNote=1\r\n";
+    const std::string foreign = before_.at(target_) + note;
+    const std::string fault = std::to_string(number) + ":stop";
+    program_.restore(before_);
+    Call call = callOf(fault);
+    call.meanwhile = [&] { fs::rename(program_.folder().file("foreign", foreign), program_.jobs() / target_); };
     const Outcome outcome = program_.run(call);
-    const std::string job = bytesOf(program_.jobs() / name);
-    if (outcome.code != 0) report(where(faults), "the next save fails: " + outcome.error);
-    if (program_.temporaries() > litter) report(where(faults), "the next save leaves a temporary file");
-    if (job.find(saved) == std::string::npos) report(where(faults), "the next save is lost");
-    checkWhole(faults + ", next save", job);
+    Files now = program_.files();
+    const bool littered = takeTemporaries(now) > 0;
+    const bool updated = now[target_] == after_.at(target_) + note;
+    const bool whole = updated || now[target_] == after_.at(target_) || now[target_] == foreign;
+    if (outcome.code != 0) complain(fault, "fails: " + outcome.error);
+    if (!whole || now.size() != before_.size() || littered) complain(fault, "the replaced job is not whole");
+    if (number == firstCall && !updated) complain(fault, "the lines of the other process are lost");
+}
+
+}  // namespace
+
+void report(const std::string& where, const std::string& what) {
+    std::cerr << "faults: " << where << ": " << what << '\n';
+    ++findings;
+}
+
+Counts tryEveryFault(const SavingProgram& program, const Scenario& scenario, bool full) {
+    Trial trial(program, scenario);
+    for (std::size_t number = trial.firstCall; number <= trial.calls.size(); ++number) {
+        for (std::size_t i = 0; i < std::size(errors); ++i) {
+            if (full || i == number % std::size(errors)) trial.fail(number, errors[i]);
+        }
+        trial.fail(number, "EINTR");
+        if (isOneOf(trial.calls[number - 1], transfers)) trial.fail(number, "short");
+        for (const char* const kill : {":kill-before", ":kill-after"})
+            (void)trial.tryFaults(std::to_string(number) + kill);
+        if (full) trial.failTwice(number);
+    }
+    return trial.counts;
+}
+
+int replaceMeanwhile(const SavingProgram& program, const Scenario& scenario) {
+    const Trial trial(program, scenario);
+    for (std::size_t number = trial.firstCall; number <= trial.calls.size(); ++number)
+        trial.replace(number);
+    return trial.counts.at("calls");
 }
 
 }  // namespace kestedit::test
