@@ -2,6 +2,7 @@
 
 #include <csignal>
 #include <set>
+#include <spawn.h>
 #include <sstream>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -16,11 +17,10 @@ constexpr std::string_view linkMark = "-> ";
 
 /// The exit code, or -1 for a program that was killed.
 int runShell(const std::string& command, const std::function<void()>& meanwhile) {
-    const pid_t process = ::fork();
-    if (process == 0) {
-        ::execl("/bin/sh", "sh", "-c", command.c_str(), nullptr);
-        ::_exit(127);
-    }
+    const char* const words[] = {"sh", "-c", command.c_str(), nullptr};
+    pid_t process = 0;
+    const int error = ::posix_spawn(&process, "/bin/sh", nullptr, nullptr, const_cast<char* const*>(words), ::environ);
+    if (error != 0) throw std::system_error(error, std::system_category(), "start sh");
     int status = 0;
     while (::waitpid(process, &status, WUNTRACED) == process && WIFSTOPPED(status)) {
         meanwhile();
