@@ -185,7 +185,7 @@ std::optional<IniText::KeyLine> IniText::keyLine(std::size_t begin, std::size_t 
 }
 
 bool IniText::isNamed(std::string_view name, std::string_view folded) const {
-    return fold(name) == folded;
+    return name == folded || fold(name) == folded;  // as all names of a language file stand there
 }
 
 std::string_view IniText::fold(std::string_view name) const {
