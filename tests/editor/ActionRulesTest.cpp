@@ -122,17 +122,21 @@ TEST_F(CompressionRules, ExistingFilesMarkOfCompressAndExtract) {
 
 // Positions 3 to 6 show the pages of folders, files, extensions and size in view 15.
 TEST_F(RefreshPageStates, View15RunsRulesByPosition) {
-    create(15);
-    const std::string restored[] = {
-        "", "", "", "dxIntWeekDay", "", "", "dxFileName", "dxDateFrom", "chkAttrArchive(1)", "", "fraExistingUnzip"};
-    for (int position = 0; position < static_cast<int>(std::size(restored)); ++position) {
-        for (const std::string& name : restored)
-            if (!name.empty()) at(name).Visible = true;
-        kestedit::RefreshPageStates(form(), "", 15, position);
-        std::string back;
-        for (const std::string& name : restored)
-            if (!name.empty() && !at(name).Visible) back += name;
-        EXPECT_EQ(back, restored[position]) << position;
+    const std::pair<int, std::vector<std::string>> views[] = {
+        {15,
+         {"", "", "", "dxIntWeekDay", "", "", "dxFileName", "dxDateFrom", "chkAttrArchive(1)", "", "fraExistingUnzip"}},
+        {23, {"", "", "", "dxFileName", "", "", "dxDateFrom", "chkAttrArchive(1)", "fraExistingUnzip", ""}}};
+    for (const auto& [view, restored] : views) {
+        create(view);
+        for (std::size_t position = 0; position < restored.size(); ++position) {
+            for (const std::string& name : restored)
+                if (!name.empty()) at(name).Visible = true;
+            kestedit::RefreshPageStates(form(), "", view, static_cast<int>(position));
+            std::string back;
+            for (const std::string& name : restored)
+                if (!name.empty() && !at(name).Visible) back += name;
+            EXPECT_EQ(back, restored[position]) << view << " " << position;
+        }
     }
 }
 
