@@ -1,6 +1,7 @@
 // The editor's window over a folder of a test's own, driven by keys and mouse.
 #pragma once
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -38,10 +39,12 @@ class WindowTest : public EditorTest {
     FormWindow& window() { return *window_; }
     void setLanguage(const char* name) { values.Language = std::string{KESTEDIT_LANG_DIR "/"} + name + ".lng"; }
 
-    /// Lets everything that is waiting happen.
+    /// Lets everything that is waiting happen, and what that leaves waiting in turn: a layout takes several rounds, and
+    /// an answer from another thread may come in the last of them.
     static void settle() {
-        for (int i = 0; i < 3; ++i)
-            QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+        while (QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents))
+            continue;
     }
 
     /// Of a control on whatever page; makes the pages that nobody has looked at.
