@@ -4,6 +4,8 @@
 #include <array>
 #include <bit>
 #include <cerrno>
+#include <cstring>
+#include <functional>
 #include <iconv.h>
 #include <map>
 #include <memory>
@@ -26,6 +28,50 @@ constexpr bool isStrayByte(char32_t character) {
 
 unsigned char byteAt(std::string_view bytes, std::size_t index) {
     return static_cast<unsigned char>(bytes[index]);
+}
+
+template <class Number>
+std::uint64_t numberAt(const char* place) {
+    Number number;
+    std::memcpy(&number, place, sizeof number);
+    return number;
+}
+
+/// Calls `visit` with every byte of `text`, eight at a time. The last eight overlap the ones before, because a copy of
+/// the odd bytes would take longer than all the rest of a short name.
+template <class Visit>
+void visitWords(std::string_view text, Visit visit) {
+    const char* const end = text.data() + text.size();
+    if (text.size() >= 8) {
+        for (const char* place = text.data(); end - place > 8; place += 8)
+            visit(numberAt<std::uint64_t>(place));
+        visit(numberAt<std::uint64_t>(end - 8));
+    } else if (text.size() >= 4) {
+        visit(numberAt<std::uint32_t>(text.data()) | numberAt<std::uint32_t>(end - 4) << 32U);
+    } else if (!text.empty()) {
+        visit(byteAt(text, 0) | std::uint64_t{byteAt(text, text.size() / 2)} << 8U |
+              std::uint64_t{byteAt(text, text.size() - 1)} << 16U);
+    }
+}
+
+bool isAscii(std::string_view text) {
+    constexpr std::uint64_t highBits = 0x8080808080808080;
+    std::uint64_t bits = 0;
+    visitWords(text, [&bits](std::uint64_t word) { bits |= word; });
+    return (bits & highBits) == 0;
+}
+
+/// The same for both cases of an ASCII letter.
+std::uint32_t hashWithoutCase(std::string_view name) {
+    constexpr std::uint64_t lowerCaseBits = 0x2020202020202020;
+    constexpr std::uint64_t factor = 0x9E3779B97F4A7C15;
+    std::uint64_t hash = name.size();
+    visitWords(name, [&hash](std::uint64_t word) {
+        hash = (hash ^ (word | lowerCaseBits)) * factor;
+        hash ^= hash >> 32U;
+    });
+    // Names often differ in their last characters only, which reach none but the upper bits of the product above.
+    return static_cast<std::uint32_t>((hash * factor) >> 32U);
 }
 
 std::invalid_argument refusal(int number, const char* reason) {
@@ -73,6 +119,7 @@ struct CodePage::Tables {
     std::array<char32_t, 256> characters{};  // of each byte; under UTF-8 of the ASCII bytes only
     std::array<char, 256> folded{};          // each byte's lower-case byte
     std::array<bool, 256> plain{};           // bytes that are the same character in UTF-8
+    bool allOfAsciiIsPlain = false;          // as in most pages
 
     explicit Tables(int number) {
         if (number == utf8) {
@@ -91,6 +138,7 @@ struct CodePage::Tables {
         if (!std::ranges::all_of(structure, [this](char byte) { return plain[static_cast<unsigned char>(byte)]; })) {
             throw refusal(number, "has other bytes than ASCII for the characters that an INI file is built of");
         }
+        allOfAsciiIsPlain = std::all_of(plain.begin(), plain.begin() + 128, std::identity{});
     }
 
     [[nodiscard]] std::optional<char> byteOf(char32_t character) const {
@@ -126,6 +174,7 @@ const CodePage::Tables& CodePage::tablesOf(int number) {
 CodePage::CodePage(int number) : number_(number), tables_(&tablesOf(number)) {}
 
 bool CodePage::isPlain(std::string_view text) const {
+    if (tables_->allOfAsciiIsPlain) return isAscii(text);
     return std::ranges::all_of(text, [this](char byte) { return tables_->plain[static_cast<unsigned char>(byte)]; });
 }
 
@@ -174,18 +223,26 @@ std::optional<std::string> CodePage::encode(std::string_view text) const {
     return bytes;
 }
 
-std::string CodePage::fold(std::string_view bytes) const {
-    std::string folded;
-    fold(bytes, folded);
-    return folded;
+std::optional<std::string_view> CodePage::encode(std::string_view text, std::string& buffer) const {
+    if (isPlain(text)) return text;
+    std::optional<std::string> bytes = encode(text);
+    if (!bytes) return std::nullopt;
+    buffer = std::move(*bytes);
+    return buffer;
 }
 
-void CodePage::fold(std::string_view bytes, std::string& folded) const {
-    folded.resize(bytes.size());
-    std::ranges::transform(bytes, folded.begin(),
-                           [this](char byte) { return tables_->folded[static_cast<unsigned char>(byte)]; });
-    if (number_ != utf8 || isPlain(bytes)) return;
-    folded.clear();
+char CodePage::foldedByte(char byte) const {
+    return tables_->folded[static_cast<unsigned char>(byte)];
+}
+
+std::string CodePage::fold(std::string_view bytes) const {
+    std::string folded;
+    folded.reserve(bytes.size());
+    if (number_ != utf8 || isPlain(bytes)) {
+        for (const char byte : bytes)
+            folded += foldedByte(byte);
+        return folded;
+    }
     while (!bytes.empty()) {
         const auto [codePoint, sequence] = takeCharacter(bytes);
         if (sequence.size() == 1 && byteAt(sequence, 0) >= 0x80) {
@@ -194,6 +251,17 @@ void CodePage::fold(std::string_view bytes, std::string& folded) const {
             appendCharacter(folded, lowerCase(codePoint));
         }
     }
+    return folded;
+}
+
+bool CodePage::isSameName(std::string_view left, std::string_view right) const {
+    if (left == right) return true;  // as the names of a program's own files mostly are
+    if (number_ == utf8 && !(isPlain(left) && isPlain(right))) return fold(left) == fold(right);
+    return std::ranges::equal(left, right, [this](char a, char b) { return foldedByte(a) == foldedByte(b); });
+}
+
+std::uint32_t CodePage::hashOfName(std::string_view name) const {
+    return hashWithoutCase(isPlain(name) ? name : std::string_view(fold(name)));
 }
 
 std::string_view CodePage::cut(std::string_view bytes, std::size_t size) const {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -31,14 +32,17 @@ class KESTEDIT_EXPORT CodePage {
     /// UTF-8 as bytes of a file; nothing when `text` is not UTF-8 or holds a character that the page lacks.
     [[nodiscard]] std::optional<std::string> encode(std::string_view text) const;
 
+    /// The same without a copy where the bytes do not differ: `text` itself, or else `buffer`, which then holds them.
+    [[nodiscard]] std::optional<std::string_view> encode(std::string_view text, std::string& buffer) const;
+
     /// The lower-case form of an encoded name: two names are the same when these forms are equal.
     [[nodiscard]] std::string fold(std::string_view bytes) const;
 
-    /// The same into `folded`, whose memory is reused.
-    void fold(std::string_view bytes, std::string& folded) const;
+    /// Whether two encoded names are the same.
+    [[nodiscard]] bool isSameName(std::string_view left, std::string_view right) const;
 
-    /// Whether `text` is the same in UTF-8 and in this page, character by character.
-    [[nodiscard]] bool isPlain(std::string_view text) const;
+    /// A hash of an encoded name, equal for names that are the same.
+    [[nodiscard]] std::uint32_t hashOfName(std::string_view name) const;
 
     /// The longest head of `bytes` that is at most `size` bytes long and ends between two characters.
     [[nodiscard]] std::string_view cut(std::string_view bytes, std::size_t size) const;
@@ -50,6 +54,10 @@ class KESTEDIT_EXPORT CodePage {
   private:
     struct Tables;
     static const Tables& tablesOf(int number);
+
+    /// Whether `text` is the same in UTF-8 and in this page, character by character.
+    [[nodiscard]] bool isPlain(std::string_view text) const;
+    [[nodiscard]] char foldedByte(char byte) const;
 
     int number_;
     const Tables* tables_;  // made once for each page, kept as long as the process lives

@@ -25,15 +25,16 @@ bool isLongAgo(const std::timespec& changed) {
     return duration_cast<nanoseconds>(system_clock::now().time_since_epoch()) - moment > tick;
 }
 
-/// Reads until `capacity` bytes are there or the file ends; returns how many there are.
+/// Reads until `capacity` bytes are there or the file ends; returns how many there are. A read that leaves just the
+/// last byte free has met the end: it stands behind the file's size.
 std::size_t fill(const FileDescriptor& file, char* buffer, std::size_t used, std::size_t capacity,
                  const std::filesystem::path& path) {
-    while (used < capacity) {
-        const ssize_t count = uninterrupted([&] { return ::read(file.number(), buffer + used, capacity - used); });
+    ssize_t count = 0;
+    do {
+        count = uninterrupted([&] { return ::read(file.number(), buffer + used, capacity - used); });
         if (count < 0) throw systemFailure("read", path);
-        if (count == 0) break;
         used += static_cast<std::size_t>(count);
-    }
+    } while (count > 0 && used + 1 < capacity);
     return used;
 }
 
@@ -68,7 +69,7 @@ FileContent FileContent::read(const std::filesystem::path& path) {
     requireRegularFile(status, "read", path);
 
     FileContent content(status);
-    // One byte more than the file has: a read that leaves it free has met the end.
+    // One byte more than the file has, which stays free unless the file has grown since.
     std::size_t capacity = static_cast<std::size_t>(status.st_size) + 1;
     for (;;) {
         if (capacity > maximumSize + 1)

@@ -1,6 +1,7 @@
 #include "platform/IniEdit.h"
 
 #include <algorithm>
+#include <functional>
 #include <optional>
 #include <tuple>
 #include <utility>
@@ -9,7 +10,9 @@ namespace kestedit {
 
 namespace {
 
-constexpr std::string_view lineBreaksAndNul{"\r\n\0", 3};
+bool isLineBreakOrNul(char byte) {
+    return byte == '\r' || byte == '\n' || byte == '\0';
+}
 
 std::string inMessage(std::string_view section, std::string_view key) {
     return "key \"" + std::string(key) + "\" of section \"" + std::string(section) + '"';
@@ -18,24 +21,22 @@ std::string inMessage(std::string_view section, std::string_view key) {
 /// `text` in the code page. `buffer` holds it where it differs from UTF-8.
 std::string_view encoded(const CodePage& page, std::string_view text, std::string& buffer, std::string_view section,
                          std::string_view key) {
-    if (page.isPlain(text)) return text;
-    std::optional<std::string> bytes = page.encode(text);
+    const std::optional<std::string_view> bytes = page.encode(text, buffer);
     if (!bytes) {
         throw UnwritableText(inMessage(section, key) + ": code page " + std::to_string(page.number()) +
                                  " cannot hold \"" + std::string(text) + '"',
                              std::errc::illegal_byte_sequence);
     }
-    buffer = std::move(*bytes);
-    return buffer;
+    return *bytes;
 }
 
 bool isWritableSection(std::string_view name) {
-    return name.find(']') == std::string_view::npos && name.find_first_of(lineBreaksAndNul) == std::string_view::npos;
+    return std::ranges::none_of(name, [](char byte) { return byte == ']' || isLineBreakOrNul(byte); });
 }
 
 bool isWritableKey(std::string_view name) {
-    return !name.empty() && name.front() != ';' && name.front() != '[' && name.find('=') == std::string_view::npos &&
-           name.find_first_of(lineBreaksAndNul) == std::string_view::npos;
+    return !name.empty() && name.front() != ';' && name.front() != '[' &&
+           std::ranges::none_of(name, [](char byte) { return byte == '=' || isLineBreakOrNul(byte); });
 }
 
 }  // namespace
@@ -54,21 +55,20 @@ void IniEdit::set(std::string_view section, std::string_view key, std::string_vi
         throw UnwritableText(inMessage(section, key) + ": an INI file cannot hold this name",
                              std::errc::invalid_argument);
     }
-    const std::size_t number = sectionFor(sectionName, page.fold(sectionName));
-    const std::string folded = page.fold(keyName);
+    const std::size_t number = sectionFor(sectionName);
     if (number < base_->sectionCount()) {
-        if (const std::optional<IniText::Range> place = base_->findKey(number, folded)) {
+        if (const std::optional<IniText::Range> place = base_->findKey(number, keyName)) {
             replacements_.push_back({*place, rememberValue(valueBytes)});
             return;
         }
     }
-    setNewKey(number, keyName, folded, valueBytes);
+    setNewKey(number, keyName, valueBytes);
 }
 
-std::size_t IniEdit::sectionFor(std::string_view name, std::string folded) {
-    if (const std::optional<std::size_t> existing = base_->findSection(folded)) return *existing;
+std::size_t IniEdit::sectionFor(std::string_view name) {
+    if (const std::optional<std::size_t> existing = base_->findSection(name)) return *existing;
     const auto [entry, isNew] =
-        newSections_.try_emplace(std::move(folded), base_->sectionCount() + newSections_.size());
+        newSections_.try_emplace(base_->codePage().fold(name), base_->sectionCount() + newSections_.size());
     if (isNew) {
         const Stretch line = remember('[' + std::string(name) + ']' + std::string(lineEnd_));
         newLines_.push_back({base_->bytes().size(), entry->second, 0, line});
@@ -76,8 +76,9 @@ std::size_t IniEdit::sectionFor(std::string_view name, std::string folded) {
     return entry->second;
 }
 
-void IniEdit::setNewKey(std::size_t section, std::string_view name, const std::string& folded, std::string_view value) {
-    const auto [entry, isNew] = newKeys_.try_emplace(std::to_string(section) + '=' + folded, newLines_.size());
+void IniEdit::setNewKey(std::size_t section, std::string_view name, std::string_view value) {
+    const auto [entry, isNew] =
+        newKeys_.try_emplace(std::to_string(section) + '=' + base_->codePage().fold(name), newLines_.size());
     if (isNew) {
         const bool isNewSection = section >= base_->sectionCount();
         const std::size_t position = isNewSection ? base_->bytes().size() : base_->endOfKeys(section);
@@ -99,9 +100,7 @@ IniEdit::Stretch IniEdit::remember(std::string_view text) {
 /// Line breaks and NUL become blanks, so that no value makes a line of its own.
 IniEdit::Stretch IniEdit::rememberValue(std::string_view value) {
     const Stretch stretch = remember(value);
-    if (value.find_first_of(lineBreaksAndNul) == std::string_view::npos) return stretch;
-    const auto isBroken = [](char byte) { return lineBreaksAndNul.find(byte) != std::string_view::npos; };
-    std::replace_if(texts_.begin() + static_cast<std::ptrdiff_t>(stretch.begin), texts_.end(), isBroken, ' ');
+    std::replace_if(texts_.begin() + static_cast<std::ptrdiff_t>(stretch.begin), texts_.end(), isLineBreakOrNul, ' ');
     return stretch;
 }
 
@@ -110,11 +109,10 @@ std::string_view IniEdit::text(Stretch stretch) const {
 }
 
 std::vector<IniEdit::Replacement> IniEdit::replacementsInOrder() const {
+    const auto place = [](const Replacement& replacement) { return replacement.place.begin; };
+    if (std::ranges::is_sorted(replacements_, std::less_equal{}, place)) return replacements_;  // none of them twice
     std::vector<Replacement> sorted = replacements_;
-    const auto byPlace = [](const Replacement& left, const Replacement& right) {
-        return left.place.begin < right.place.begin;
-    };
-    std::ranges::stable_sort(sorted, byPlace);
+    std::ranges::stable_sort(sorted, {}, place);
     std::vector<Replacement> ordered;
     ordered.reserve(sorted.size());
     for (const Replacement& replacement : sorted) {

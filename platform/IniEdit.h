@@ -55,8 +55,8 @@ class IniEdit {
         Stretch line;
     };
 
-    std::size_t sectionFor(std::string_view name, std::string folded);
-    void setNewKey(std::size_t section, std::string_view name, const std::string& folded, std::string_view value);
+    std::size_t sectionFor(std::string_view name);
+    void setNewKey(std::size_t section, std::string_view name, std::string_view value);
     Stretch remember(std::string_view text);
     Stretch rememberValue(std::string_view value);
     [[nodiscard]] std::string_view text(Stretch stretch) const;

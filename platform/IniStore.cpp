@@ -22,22 +22,21 @@ namespace {
 
 using SharedText = std::shared_ptr<const IniText>;
 
-/// The folded form of a name that a caller asks for; nothing when no file of this page can hold it.
-std::optional<std::string> foldedName(const CodePage& page, std::string_view name) {
-    if (page.isPlain(name)) return page.fold(trimName(name));
-    const std::optional<std::string> bytes = page.encode(name);
+/// The section's number; nothing for a name that no file of this page can hold.
+std::optional<std::size_t> findSection(const IniText& text, std::string_view name) {
+    std::string buffer;
+    const std::optional<std::string_view> bytes = text.codePage().encode(name, buffer);
     if (!bytes) return std::nullopt;
-    return page.fold(trimName(*bytes));
+    return text.findSection(trimName(*bytes));
 }
 
 /// The value in the file's own bytes.
 std::optional<std::string_view> findValue(const IniText& text, std::string_view section, std::string_view key) {
-    const std::optional<std::string> sectionName = foldedName(text.codePage(), section);
-    const std::optional<std::string> keyName = foldedName(text.codePage(), key);
-    if (!sectionName || !keyName) return std::nullopt;
-    const std::optional<std::size_t> number = text.findSection(*sectionName);
-    if (!number) return std::nullopt;
-    const std::optional<IniText::Range> place = text.findKey(*number, *keyName);
+    std::string buffer;
+    const std::optional<std::string_view> name = text.codePage().encode(key, buffer);
+    const std::optional<std::size_t> number = findSection(text, section);
+    if (!name || !number) return std::nullopt;
+    const std::optional<IniText::Range> place = text.findKey(*number, trimName(*name));
     if (!place) return std::nullopt;
     return text.value(*place);
 }
@@ -221,8 +220,7 @@ IniStore::Snapshot& IniStore::Snapshot::operator=(Snapshot&&) noexcept = default
 IniStore::Snapshot::~Snapshot() = default;
 
 bool IniStore::Snapshot::hasSection(std::string_view section) const {
-    const std::optional<std::string> name = foldedName(impl_->text->codePage(), section);
-    return name && impl_->text->findSection(*name);
+    return findSection(*impl_->text, section).has_value();
 }
 
 std::optional<std::string> IniStore::Snapshot::value(std::string_view section, std::string_view key) const {

@@ -1,9 +1,7 @@
 #include "platform/IniText.h"
 
-#include <algorithm>
 #include <bit>
 #include <cstring>
-#include <functional>
 #include <utility>
 
 namespace kestedit {
@@ -24,10 +22,6 @@ std::string_view trimLine(std::string_view text) {
     while (!text.empty() && isBlank(text.back()))
         text.remove_suffix(1);
     return text;
-}
-
-std::uint32_t hashOf(std::string_view folded) {
-    return static_cast<std::uint32_t>(std::hash<std::string_view>{}(folded));
 }
 
 std::uint32_t offset(std::size_t place) {
@@ -88,16 +82,22 @@ void IniText::indexSections() {
     }
     sectionTable_.reset(sections_.size());
     for (std::size_t i = 0; i < sections_.size(); ++i) {
-        const std::string name(
-            fold(text.substr(sections_[i].nameBegin, sections_[i].nameEnd - sections_[i].nameBegin)));
-        if (!findSection(name)) sectionTable_.add(hashOf(name), offset(i));
+        const std::string_view name = nameOf(sections_[i]);
+        if (!findSection(name)) sectionTable_.add(page_.hashOfName(name), offset(i));
     }
 }
 
-std::optional<std::size_t> IniText::findSection(std::string_view folded) const {
-    return sectionTable_.find(hashOf(folded), [&](std::uint32_t section) {
-        const Section& candidate = sections_[section];
-        return isNamed(bytes().substr(candidate.nameBegin, candidate.nameEnd - candidate.nameBegin), folded);
+std::string_view IniText::nameOf(const Section& section) const {
+    return bytes().substr(section.nameBegin, section.nameEnd - section.nameBegin);
+}
+
+std::string_view IniText::nameOf(const Key& key) const {
+    return bytes().substr(key.nameBegin, key.nameEnd - key.nameBegin);
+}
+
+std::optional<std::size_t> IniText::findSection(std::string_view name) const {
+    return sectionTable_.find(page_.hashOfName(name), [&](std::uint32_t section) {
+        return page_.isSameName(nameOf(sections_[section]), name);
     });
 }
 
@@ -108,32 +108,35 @@ const IniText::Keys& IniText::keysOf(std::size_t number) const {
     Keys& keys = *section.keys;
     keys.end = section.bodyBegin;
     const std::string_view body = bytes().substr(0, section.bodyEnd);
-    keys.table.reset(static_cast<std::size_t>(std::count(body.begin() + section.bodyBegin, body.end(), '\n')) + 1);
+    constexpr std::size_t usualLine = 32;  // bytes
+    keys.inOrder.reserve((body.size() - section.bodyBegin) / usualLine + 1);
     for (std::size_t begin = section.bodyBegin; begin < body.size();) {
         const std::size_t end = lineEndFrom(begin);
-        if (const std::optional<KeyLine> line = keyLine(begin, end)) {
-            const std::string_view folded = fold(line->name);
-            const std::uint32_t hash = hashOf(folded);
-            const auto isSame = [&](std::uint32_t other) {
-                const std::string name(fold(line->name));
-                return isNamed(keyLine(other, lineEndFrom(other))->name, name);
-            };
-            if (!keys.table.find(hash, isSame)) keys.table.add(hash, offset(begin));
+        if (const std::optional<Key> key = keyOfLine(begin, end)) {
+            keys.inOrder.push_back(*key);
             keys.end = end;
         }
         begin = end;
     }
+    keys.byName.reset(keys.inOrder.size());
+    for (std::size_t i = 0; i < keys.inOrder.size(); ++i) {
+        const std::string_view name = nameOf(keys.inOrder[i]);
+        const std::uint32_t hash = page_.hashOfName(name);
+        if (!findKey(keys, hash, name)) keys.byName.add(hash, offset(i));
+    }
     return keys;
 }
 
-std::optional<IniText::Range> IniText::findKey(std::size_t section, std::string_view folded) const {
-    std::optional<KeyLine> found;
-    const auto isSame = [&](std::uint32_t line) {
-        found = keyLine(line, lineEndFrom(line));
-        return isNamed(found->name, folded);
-    };
-    if (!keysOf(section).table.find(hashOf(folded), isSame)) return std::nullopt;
-    return Range{found->valueBegin, found->valueEnd};
+std::optional<std::uint32_t> IniText::findKey(const Keys& keys, std::uint32_t hash, std::string_view name) const {
+    return keys.byName.find(hash, [&](std::uint32_t key) { return page_.isSameName(nameOf(keys.inOrder[key]), name); });
+}
+
+std::optional<IniText::Range> IniText::findKey(std::size_t section, std::string_view name) const {
+    const Keys& keys = keysOf(section);
+    const std::optional<std::uint32_t> number = findKey(keys, page_.hashOfName(name), name);
+    if (!number) return std::nullopt;
+    const Key& key = keys.inOrder[*number];
+    return Range{key.valueBegin, key.valueEnd};
 }
 
 std::string_view IniText::value(Range place) const {
@@ -165,7 +168,7 @@ std::size_t IniText::lineEndFrom(std::size_t place) const {
 }
 
 /// The line from `begin` to behind its end as a key, or nothing for a comment and for a line without "=" or name.
-std::optional<IniText::KeyLine> IniText::keyLine(std::size_t begin, std::size_t end) const {
+std::optional<IniText::Key> IniText::keyOfLine(std::size_t begin, std::size_t end) const {
     const std::string_view text = bytes();
     if (text[end - 1] == '\n') end -= end - begin >= 2 && text[end - 2] == '\r' ? 2 : 1;
     while (begin < end && isBlank(text[begin]))
@@ -181,16 +184,7 @@ std::optional<IniText::KeyLine> IniText::keyLine(std::size_t begin, std::size_t 
     std::size_t valueBegin = equals + 1;
     while (valueBegin < end && isBlank(text[valueBegin]))
         ++valueBegin;
-    return KeyLine{text.substr(begin, nameEnd - begin), valueBegin, end};
-}
-
-bool IniText::isNamed(std::string_view name, std::string_view folded) const {
-    return name == folded || fold(name) == folded;  // as all names of a language file stand there
-}
-
-std::string_view IniText::fold(std::string_view name) const {
-    page_.fold(name, folded_);
-    return folded_;
+    return Key{offset(begin), offset(nameEnd), offset(valueBegin), offset(end)};
 }
 
 }  // namespace kestedit

@@ -45,7 +45,7 @@ class NameTable {
     std::vector<Slot> slots_;
 };
 
-/// The rules of reading: what is a section, a key, a value. Names to find are folded by the code page.
+/// The rules of reading: what is a section, a key, a value. Names to find are bytes of the code page, in any case.
 ///
 /// Not for two threads at once: a question may extend the index.
 class IniText {
@@ -65,11 +65,11 @@ class IniText {
     [[nodiscard]] const std::optional<FileContent>& content() const { return content_; }
 
     /// The number of the first section of this name, below sectionCount().
-    [[nodiscard]] std::optional<std::size_t> findSection(std::string_view folded) const;
+    [[nodiscard]] std::optional<std::size_t> findSection(std::string_view name) const;
     [[nodiscard]] std::size_t sectionCount() const { return sections_.size(); }
 
     /// What stands behind the blanks behind the "=" of the section's first key of this name, up to the line's end.
-    [[nodiscard]] std::optional<Range> findKey(std::size_t section, std::string_view folded) const;
+    [[nodiscard]] std::optional<Range> findKey(std::size_t section, std::string_view name) const;
 
     /// The value that stands there: without blanks at its end and one pair of equal quotes, up to a NUL.
     [[nodiscard]] std::string_view value(Range place) const;
@@ -84,9 +84,17 @@ class IniText {
     [[nodiscard]] bool endsWithLineEnd() const;
 
   private:
-    /// The keys of one section by name; a place is the offset of a key's line.
+    /// Where a key's name stands and where its value does, in offsets.
+    struct Key {
+        std::uint32_t nameBegin;
+        std::uint32_t nameEnd;
+        std::uint32_t valueBegin;
+        std::uint32_t valueEnd;
+    };
+    /// The keys of one section, and of each name the first.
     struct Keys {
-        NameTable table;
+        std::vector<Key> inOrder;
+        NameTable byName;
         std::size_t end = 0;
     };
     struct Section {
@@ -96,25 +104,21 @@ class IniText {
         std::uint32_t bodyEnd;
         std::unique_ptr<Keys> keys;  // made by the first question for a key
     };
-    struct KeyLine {
-        std::string_view name;
-        std::size_t valueBegin;
-        std::size_t valueEnd;
-    };
 
     void indexSections();
     const Keys& keysOf(std::size_t number) const;
+    [[nodiscard]] std::optional<std::uint32_t> findKey(const Keys& keys, std::uint32_t hash,
+                                                       std::string_view name) const;
     [[nodiscard]] std::size_t lineEndFrom(std::size_t place) const;
-    [[nodiscard]] std::optional<KeyLine> keyLine(std::size_t begin, std::size_t end) const;
-    [[nodiscard]] bool isNamed(std::string_view name, std::string_view folded) const;
-    [[nodiscard]] std::string_view fold(std::string_view name) const;
+    [[nodiscard]] std::optional<Key> keyOfLine(std::size_t begin, std::size_t end) const;
+    [[nodiscard]] std::string_view nameOf(const Section& section) const;
+    [[nodiscard]] std::string_view nameOf(const Key& key) const;
 
     CodePage page_;
     std::optional<FileContent> content_;
     std::size_t begin_ = 0;  // behind a byte order mark
     mutable std::vector<Section> sections_;
     NameTable sectionTable_;
-    mutable std::string folded_;  // the name folded last
 };
 
 /// A name that a caller asks for, without the blanks and tabs at both ends, which no name in a file has.

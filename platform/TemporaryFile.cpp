@@ -1,15 +1,11 @@
 #include "platform/TemporaryFile.h"
 
-#include <algorithm>
-#include <array>
 #include <atomic>
 #include <chrono>
 #include <cstdint>
 #include <fcntl.h>
 #include <string>
-#include <sys/uio.h>
 #include <unistd.h>
-#include <vector>
 
 #include "platform/Posix.h"
 
@@ -46,25 +42,33 @@ void takeAfter(int file, const struct stat& model, mode_t mode, const std::files
     if ((own.st_mode & 07777U) != mode && ::fchmod(file, mode) != 0) throw systemFailure("set permissions of", target);
 }
 
-void writePieces(int file, std::span<const std::string_view> pieces, const std::filesystem::path& target) {
-    constexpr std::size_t batch = 256;
-    std::array<iovec, batch> vectors{};
-    std::size_t skip = 0;  // bytes of the first piece that are written already
-    while (!pieces.empty()) {
-        const std::size_t count = std::min(batch, pieces.size());
-        for (std::size_t i = 0; i < count; ++i) {
-            const std::string_view piece = pieces[i].substr(i == 0 ? skip : 0);
-            vectors[i] = {const_cast<char*>(piece.data()), piece.size()};
-        }
-        const ssize_t result = uninterrupted([&] { return ::writev(file, vectors.data(), static_cast<int>(count)); });
-        if (result < 0) throw systemFailure("write", target);
-        std::size_t written = static_cast<std::size_t>(result) + skip;
-        while (!pieces.empty() && written >= pieces.front().size()) {
-            written -= pieces.front().size();
-            pieces = pieces.subspan(1);
-        }
-        skip = written;
+void writeAll(int file, std::string_view bytes, const std::filesystem::path& target) {
+    while (!bytes.empty()) {
+        const ssize_t written = uninterrupted([&] { return ::write(file, bytes.data(), bytes.size()); });
+        if (written < 0) throw systemFailure("write", target);
+        bytes.remove_prefix(static_cast<std::size_t>(written));
     }
+}
+
+/// Copies short pieces together: handing them over one by one takes longer.
+void writePieces(int file, std::span<const std::string_view> pieces, const std::filesystem::path& target) {
+    constexpr std::size_t shortPiece = std::size_t{4} << 10U;
+    constexpr std::size_t enoughTogether = std::size_t{64} << 10U;
+    std::string together;
+    const auto writeTogether = [&] {
+        writeAll(file, together, target);
+        together.clear();
+    };
+    for (const std::string_view piece : pieces) {
+        if (piece.size() > shortPiece) {
+            writeTogether();
+            writeAll(file, piece, target);
+        } else {
+            together += piece;
+            if (together.size() > enoughTogether) writeTogether();
+        }
+    }
+    writeTogether();
 }
 
 }  // namespace

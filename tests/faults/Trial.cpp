@@ -15,17 +15,17 @@ namespace {
 
 /// A short run tries one of them on each call, in turn.
 constexpr std::string_view errors[] = {"ENOSPC", "EIO", "EACCES", "EROFS", "EDQUOT", "EMFILE", "ENOMEM"};
-constexpr std::string_view transfers[] = {"read", "writev"};
+constexpr std::string_view transfers[] = {"read", "write"};
 /// A call that a signal interrupts is made again, so its failure must be none of the save's.
-constexpr std::string_view interruptible[] = {"open", "read", "writev", "fsync", "close", "rename", "unlink"};
+constexpr std::string_view interruptible[] = {"open", "read", "write", "fsync", "close", "rename", "unlink"};
 /// A save that goes on when one of these has failed, up to its last rename, has lost data.
-constexpr std::string_view indispensable[] = {"writev", "fsync", "rename"};
+constexpr std::string_view indispensable[] = {"write", "fsync", "rename"};
 /// Faults that have none of these to hit do not reach the save.
-constexpr std::string_view needed[] = {"lstat", "open", "writev", "fsync", "close", "rename"};
+constexpr std::string_view needed[] = {"lstat", "open", "write", "fsync", "close", "rename"};
 
 /// What the kernel tells of a call.
 constexpr std::pair<std::uint32_t, std::string_view> events[] = {{IN_OPEN, "open"},       {IN_ACCESS, "read"},
-                                                                 {IN_MODIFY, "writev"},   {IN_CLOSE, "close"},
+                                                                 {IN_MODIFY, "write"},    {IN_CLOSE, "close"},
                                                                  {IN_MOVED_TO, "rename"}, {IN_DELETE, "unlink"}};
 
 bool isOneOf(std::string_view word, std::span<const std::string_view> words) {

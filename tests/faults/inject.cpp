@@ -18,12 +18,10 @@
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <map>
-#include <span>
 #include <sstream>
 #include <string>
 #include <string_view>
 #include <sys/stat.h>
-#include <sys/uio.h>
 #include <unistd.h>
 
 namespace {
@@ -144,12 +142,9 @@ ssize_t read(int file, void* buffer, size_t size) {
     return transfer("read", file, size, [&](std::size_t part) { return library(::read, "read")(file, buffer, part); });
 }
 
-/// Any number of bytes may be moved, so the pieces are put together first.
-ssize_t writev(int file, const iovec* pieces, int count) {
-    std::string bytes;
-    for (const iovec& piece : std::span(pieces, static_cast<std::size_t>(count)))
-        bytes.append(static_cast<const char*>(piece.iov_base), piece.iov_len);
-    return transfer("writev", file, bytes.size(), [&](std::size_t part) { return ::write(file, bytes.data(), part); });
+ssize_t write(int file, const void* bytes, size_t size) {
+    return transfer("write", file, size,
+                    [&](std::size_t part) { return library(::write, "write")(file, bytes, part); });
 }
 
 int rename(const char* from, const char* to) noexcept {

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 #include <stdexcept>
 #include <string>
+#include <string_view>
+#include <tuple>
 
 #include "platform/CodePage.h"
 
@@ -29,6 +31,24 @@ TEST(CodePage, decodesEncodesAndFoldsThePagesCharacters) {
     EXPECT_EQ(CodePage().fold("A\xC4\x8A\x9F"), "a\xE4\x9A\xFF");
     EXPECT_EQ(CodePage(65001).fold("A\u00C4\u0416\u03A3\xC4"), "a\u00E4\u0436\u03C3\xC4");
     EXPECT_EQ(CodePage(1250).fold("\xB5"), "\xB5") << "a letter whose other case the page lacks";
+}
+
+TEST(CodePage, sameNamesShareAHashWhateverTheirCase) {
+    const CodePage western;
+    const CodePage utf8(65001);
+    const std::tuple<CodePage, std::string_view, std::string_view> same[] = {
+        {western, "key", "KEY"},
+        {western, "ZipKeyName\xDC", "zipkEYnAME\xFC"},
+        {utf8, "ZipKeyName\u00DC", "zipkEYnAME\u00FC"},
+        {utf8, "k", "\u212A"},  // the sign of the kelvin
+    };
+    for (const auto& [page, left, right] : same) {
+        EXPECT_TRUE(page.isSameName(left, right)) << left;
+        EXPECT_EQ(page.hashOfName(left), page.hashOfName(right)) << left;
+    }
+    EXPECT_FALSE(western.isSameName("Path", "PathA"));
+    EXPECT_FALSE(western.isSameName("key@1", "key`1")) << "apart by the bit that makes a letter small";
+    EXPECT_FALSE(utf8.isSameName("\xC4", "\xE4")) << "no characters";
 }
 
 TEST(CodePage, refusesPagesThatAreNotOfOneByteEach) {
