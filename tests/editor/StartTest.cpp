@@ -1,17 +1,20 @@
-// How the editor starts: settings, texts, defaults, and an opened job.
+// How the editor starts: settings, defaults, an opened job, and the texts of the languages that the product ships.
 #include <set>
 
+#include "editor/Findings.h"
+#include "editor/NodeImages.h"
+#include "editor/PatternHint.h"
+#include "editor/WindowTexts.h"
 #include "tests/editor/EditorFixture.h"
 
 namespace kestedit {
 namespace {
 
-struct Start : test::EditorTest {};
+using Start = test::EditorTest;
 
 TEST_F(Start, WindowSettings) {
     using Settings = std::tuple<bool, bool, bool, bool, std::int64_t, std::int64_t>;
     const std::pair<std::string_view, Settings> rows[] = {
-        {"", {true, true, false, false, 14737632, 0}},
         {"[EditWin]\nShowIcons=0\nchkEditPaths=FALSE\nDisableInsteadOfHide=1\n[Global]\nRowBgCol=255\n"
          "RowTxtCol=16777215\n",
          {false, false, true, true, 255, 16777215}},
@@ -35,11 +38,9 @@ TEST_F(Start, EditPathsIsWrittenBackAndHoldsForEveryForm) {
     check("chkEditPaths", 0);
     EXPECT_TRUE(form().dxSource.ReadOnly && form().dxDest.ReadOnly && form().dxMonitorPath.ReadOnly);
     EXPECT_EQ(test::bytesOf(values.INIFile), "[EditWin]\r\nchkEditPaths=0\r\n");
-    putJob("damaged", "no section\n");
-    for (const int view : test::allViews) {
-        EXPECT_TRUE(edit("damaged", view).dxSource.ReadOnly);
-        EXPECT_TRUE(show("new", view).dxSource.ReadOnly);
-    }
+    putJob("a", "[Job]\n");
+    for (const int view : test::allViews)
+        EXPECT_TRUE(edit("a", view).dxSource.ReadOnly) << view;
     check("chkEditPaths");
     EXPECT_EQ(test::bytesOf(values.INIFile), "[EditWin]\r\nchkEditPaths=1\r\n");
 }
@@ -61,40 +62,72 @@ TEST_F(Start, NewJobDefaults) {
 TEST_F(Start, OnlyANewJobHasDefaults) {
     EXPECT_EQ(create().Caption, "kestEdit - Neuer Auftrag");
     putJob("other", "[Other]\nName=a\nAction=5\n");
-    std::filesystem::create_directory(jobFile("folder"));
     const std::string editing = "kestEdit - Auftrag bearbeiten";
     const std::tuple<const char*, const char*, std::string> rows[] = {
-        {"Edit", "other", editing}, {"Edit", "missing", editing}, {"Edit", "folder", editing}, {"new", "other", ""}};
+        {"Edit", "other", editing}, {"Edit", "missing", editing}, {"new", "other", ""}};
     for (const auto& [mode, job, caption] : rows) {
         values.JobFile = jobFile(job);
         show(mode, 4);
         EXPECT_EQ(form().Caption, caption);
         EXPECT_EQ(form().dxName.text(), "");
         EXPECT_EQ(form().optAction.selected(), std::nullopt);
-        EXPECT_EQ(form().dxHours.number(), 1);
         EXPECT_EQ(form().dxDate.date(), std::nullopt);
     }
     type("dxName", "a");
     click("cmdSave");
     EXPECT_FALSE(form().isOpen());
-    EXPECT_EQ(jobNames(), "folder.job other.job ") << "a mode of another name writes nothing";
+    EXPECT_EQ(jobNames(), "other.job ") << "a mode of another name writes nothing";
 }
 
 TEST_F(Start, WrongDatesAreRepairedAndReportedOnce) {
     putJob("a", "[Job]\nName=a\nDateFrom=11/30/2026\nDateTo=2026-01-01\nFileDateDate=31.02.2026\nIntervalDate=x\n");
     prompts.answers = {Answer::ok};
     edit("a");
-    ASSERT_EQ(prompts.messages.size(), 1U);
-    const MessageBox& notice = prompts.messages.front();
-    EXPECT_EQ(notice.title, "Information");
-    EXPECT_TRUE(notice.text.starts_with("Das Datumsformat des Systems scheint geändert worden zu sein.\r\n\r\n"));
+    const std::string notice = prompts.messages.front().title + ": " + prompts.messages.front().text;
+    EXPECT_TRUE(
+        notice.starts_with("Information: Das Datumsformat des Systems scheint geändert worden zu sein.\r\n\r\n"));
     EXPECT_EQ(form().dxDateFrom.date(), addDays(test::now.date, -1));
     for (const EditorControl* date : {&form().dxDateTo, &form().dxFileDate, &form().dxDate})
         EXPECT_EQ(date->date(), test::now.date);
     putJob("b", "[Job]\nName=b\nDateTo=01.02.2026\n");
     edit("b");
     EXPECT_EQ(prompts.messages.size(), 1U) << "an empty date is no wrong one";
-    EXPECT_EQ(form().dxDateFrom.date(), addDays(test::now.date, -1));
+}
+
+struct RunTimeTexts : test::EditorTest {
+    /// All of them, as the file says them; without one, the German texts that are built in.
+    std::vector<std::string> textsOf(const std::string& file) {
+        values.Language = file;
+        create();
+        const modIniHandler& texts = form().texts();
+        std::vector<std::string> all{UnstorableText(texts, "€")};
+        for (int finding = 0; finding <= static_cast<int>(PathFinding::monitoredNoAnswer); ++finding)
+            all.push_back(FindingText(texts, static_cast<PathFinding>(finding), form()));
+        for (const auto finding : {ScheduleFinding::datePassed, ScheduleFinding::intervalZero})
+            all.push_back(FindingText(texts, finding));
+        for (int text = 0; text <= static_cast<int>(WindowText::helpMissing); ++text)
+            all.push_back(windowText(texts, static_cast<WindowText>(text)));
+        for (const std::string_view image : {image::active, image::inactive, image::applies, image::doesNotApply})
+            all.push_back(imageMeaning(form(), texts, image));
+        choose("optFileMatch", 1);
+        check("chkRegExFile");
+        type("dxFileName", "(");
+        all.push_back(patternProblem(form(), form().dxFileName, texts).value_or(""));
+        return all;
+    }
+};
+
+// A text that a file lacks comes out in German, which no other test of the English file would notice.
+TEST_F(RunTimeTexts, StandInEveryShippedFile) {
+    const auto builtIn = textsOf("");
+    const auto german = textsOf(KESTEDIT_LANG_DIR "/german.lng");
+    const auto english = textsOf(KESTEDIT_LANG_DIR "/english.lng");
+    EXPECT_EQ(german, builtIn);
+    ASSERT_EQ(english.size(), german.size());
+    for (std::size_t i = 0; i < german.size(); ++i) {
+        EXPECT_NE(english[i], german[i]);
+        EXPECT_NE(english[i], "");
+    }
 }
 
 }  // namespace
