@@ -1,13 +1,10 @@
 // The C interface as a host in another language meets it: a whole run, and everything a host can get wrong.
-#include <filesystem>
 #include <functional>
 #include <gtest/gtest.h>
 #include <new>
-#include <string>
 #include <thread>
 #include <tuple>
 #include <utility>
-#include <vector>
 
 #include "component/kestEdit.h"
 #include "tests/platform/TemporaryFolder.h"
@@ -25,16 +22,14 @@ class CInterfaceTest : public testing::Test {
     kestEdit_Handle create() {
         kestEdit_Handle editor = 0;
         EXPECT_EQ(kestEdit_create("kestEdit.clsEdit", &editor), KESTEDIT_OK) << kestEdit_lastError();
-        const std::pair<const char*, std::string> properties[] = {
-            {"Mode", "New"},
-            {"AppTitle", "Host"},
-            {"JobDir", folder_.path().string()},
-            {"JobExtension", ".job"},
-            {"INIFile", (folder_.path() / "program.ini").string()},
-            {"Language", KESTEDIT_LANG_DIR "/english.lng"},
-        };
-        for (const auto& [name, text] : properties)
+        const auto set = [editor](const char* name, const std::string& text) {
             EXPECT_EQ(kestEdit_setText(editor, name, text.c_str()), KESTEDIT_OK) << kestEdit_lastError();
+        };
+        set("Mode", "New");
+        set("JobDir", folder_.path());
+        set("JobExtension", ".job");
+        set("INIFile", folder_.path() / "program.ini");
+        set("Language", KESTEDIT_LANG_DIR "/english.lng");
         kestEdit_setDriver(editor, &run, &ask, this);
         kestEdit_onSearchJobs(editor, &searchJobs, this);
         kestEdit_onSetNewValues(editor, &setNewValues, this);
@@ -71,18 +66,12 @@ class CInterfaceTest : public testing::Test {
 
 TEST_F(CInterfaceTest, EventsFillAJobOrAreAnswered) {
     const std::tuple<const char*, const char*, const char*, kestEdit_Result> events[] = {
-        {"choose", "optAction(3)", nullptr, KESTEDIT_OK},
-        {"pick", "dxZipGrade", "Low", KESTEDIT_OK},
-        {"check", "chkFreeSpace", "1", KESTEDIT_OK},
-        {"type", "dxFreeSpace", "4711", KESTEDIT_OK},
-        {nullptr, nullptr, nullptr, KESTEDIT_BAD_ARGUMENT},
-        {"wish", "dxName", "x", KESTEDIT_UNKNOWN_NAME},
-        {"type", "dxNobody", "x", KESTEDIT_UNKNOWN_NAME},
-        {"click", nullptr, nullptr, KESTEDIT_UNKNOWN_NAME},
-        {"type", "dxFreeSpace", "5x", KESTEDIT_BAD_ARGUMENT},
-        {"check", "chkFreeSpace", "3", KESTEDIT_BAD_ARGUMENT},
+        {"choose", "optAction(3)", nullptr, KESTEDIT_OK},     {"pick", "dxZipGrade", "Low", KESTEDIT_OK},
+        {"check", "chkFreeSpace", "1", KESTEDIT_OK},          {"type", "dxFreeSpace", "4711", KESTEDIT_OK},
+        {nullptr, nullptr, nullptr, KESTEDIT_BAD_ARGUMENT},   {"wish", "dxName", "x", KESTEDIT_UNKNOWN_NAME},
+        {"type", "dxNobody", "x", KESTEDIT_UNKNOWN_NAME},     {"click", nullptr, nullptr, KESTEDIT_UNKNOWN_NAME},
+        {"type", "dxFreeSpace", "5x", KESTEDIT_BAD_ARGUMENT}, {"check", "chkFreeSpace", "3", KESTEDIT_BAD_ARGUMENT},
         {"check", "dxName", "1", KESTEDIT_REFUSED},
-        {"type", "dxName", "\xC3\x28 \xFF", KESTEDIT_REFUSED},  // not UTF-8
     };
     show([&] {
         for (const auto& [verb, control, text, result] : events)
@@ -94,31 +83,29 @@ TEST_F(CInterfaceTest, EventsFillAJobOrAreAnswered) {
     EXPECT_EQ(event("close"), KESTEDIT_REFUSED);
     for (const char* line : {"\r\nAction=3\r\n", "\r\nZipGrade=2\r\n", "\r\nFreeSpaceVal=4711\r\n"})
         EXPECT_NE(bytesOf(job_).find(line), std::string::npos) << bytesOf(job_);
-
     kestEdit_setDriver(editor_, nullptr, nullptr, nullptr);
     EXPECT_EQ(kestEdit_show(editor_, 4), KESTEDIT_NO_WINDOW);
 }
 
 TEST_F(CInterfaceTest, OneEventForEachEndUntilOneIsCancelled) {
-    /// Shows the job "old" in that mode, or a new one, and saves it under a name.
-    const auto heardOf = [this](const char* mode, const std::function<void()>& script) {
+    answer_ = [](const std::string&) { return KESTEDIT_ANSWER_YES; };
+    /// What a host hears of a run that saves the job "old", or a new one, under a name; without a name, closes it.
+    const auto heardOf = [this](const char* mode, const char* name) {
         kestEdit_setText(editor_, "Mode", mode);
         kestEdit_setText(editor_, "JobFile", folder_.file("old.job", "[Job]\r\nName=old\r\n").c_str());
-        show(script);
+        show([&] { name ? save(KESTEDIT_OK, name) : static_cast<void>(event("close")); });
         return std::exchange(heard_, "");
     };
-    const auto saveAs = [this](const char* name) { return [this, name] { save(KESTEDIT_OK, name); }; };
-    const auto close = [this] { EXPECT_EQ(event("close"), KESTEDIT_OK); };
-    EXPECT_EQ(heardOf("New", saveAs("a")), "SearchJobs;");
-    EXPECT_EQ(heardOf("New", close), "SearchJobs;");
-    EXPECT_EQ(heardOf("Edit", saveAs("old")), "SetNewValues;");
-    EXPECT_EQ(heardOf("Edit", close), "SetNewValues;");
-    EXPECT_EQ(heardOf("new", close), "SetNewValues;");
-    EXPECT_EQ(heardOf("Edit", saveAs("renamed")), "SearchJobs;");
-    answer_ = [](const std::string&) { return KESTEDIT_ANSWER_YES; };
-    EXPECT_EQ(heardOf("Edit", saveAs("a")), "SearchJobs;") << "overwritten";
-    EXPECT_EQ(heardOf("New", [] {}), "") << "what a driver leaves open is cancelled";
-    EXPECT_EQ(heardOf("New", saveAs("b")), "") << "for good";
+    EXPECT_EQ(heardOf("New", "a"), "SearchJobs;");
+    EXPECT_EQ(heardOf("New", nullptr), "SearchJobs;");
+    EXPECT_EQ(heardOf("Edit", "old"), "SetNewValues;");
+    EXPECT_EQ(heardOf("Edit", nullptr), "SetNewValues;");
+    EXPECT_EQ(heardOf("new", nullptr), "SetNewValues;");
+    EXPECT_EQ(heardOf("Edit", "renamed"), "SearchJobs;");
+    EXPECT_EQ(heardOf("Edit", "a"), "SearchJobs;") << "overwritten";
+    show([] {});
+    EXPECT_EQ(heard_, "") << "what a driver leaves open is cancelled";
+    EXPECT_EQ(heardOf("New", "b"), "") << "for good";
     EXPECT_EQ(folder_.names(), (std::vector<std::string>{"a.job", "b.job", "old.job", "renamed.job"}));
 }
 
@@ -130,25 +117,25 @@ TEST_F(CInterfaceTest, MessageBoxesGetTheirCarefulAnswerOrGoToTheHost) {
     EXPECT_EQ(bytesOf(job_), other);
 
     kestEdit_setDriver(editor_, &run, &ask, this);
-    int answer = KESTEDIT_ANSWER_RETRY;  // has no button in the question whether to overwrite
+    int answer = 0;
     answer_ = [&](const std::string& question) {
         EXPECT_TRUE(question.starts_with("Message: A job with this name already exists!\r\n")) << question;
         EXPECT_EQ(event("click", "cmdCancel"), KESTEDIT_BUSY);
         return answer;
     };
     show([&] {
-        save(KESTEDIT_BAD_ARGUMENT);
-        EXPECT_NE(std::string(kestEdit_lastError()).find("has no button for the answer 4"), std::string::npos);
-        answer = -1;
-        save(KESTEDIT_BAD_ARGUMENT);
-        EXPECT_EQ(bytesOf(job_), other);
+        for (const int noButton : {static_cast<int>(KESTEDIT_ANSWER_RETRY), -1}) {
+            answer = noButton;
+            save(KESTEDIT_BAD_ARGUMENT);
+            EXPECT_EQ(bytesOf(job_), other);
+        }
         answer = KESTEDIT_ANSWER_YES;
         save();
     });
     EXPECT_NE(bytesOf(job_), other);
 }
 
-TEST_F(CInterfaceTest, HandlesThatAreNoEditorsAreRecognised) {
+TEST_F(CInterfaceTest, HandlesNamesTypesAndPointersAreChecked) {
     const kestEdit_Handle released = create();
     ASSERT_EQ(kestEdit_release(released), KESTEDIT_OK);
     const kestEdit_Handle next = create();  // gets a handle of its own
@@ -159,9 +146,6 @@ TEST_F(CInterfaceTest, HandlesThatAreNoEditorsAreRecognised) {
         EXPECT_EQ(kestEdit_lastError(), "no editor has the handle " + std::to_string(handle));
     }
     EXPECT_EQ(kestEdit_release(next), KESTEDIT_OK);
-}
-
-TEST_F(CInterfaceTest, NamesTypesAndPointersAreChecked) {
     kestEdit_Handle handle = 42;
     EXPECT_EQ(kestEdit_create("kestEdit.frmEdit", &handle), KESTEDIT_UNKNOWN_NAME);
     EXPECT_EQ(handle, 0U);
@@ -172,7 +156,6 @@ TEST_F(CInterfaceTest, NamesTypesAndPointersAreChecked) {
     EXPECT_EQ(kestEdit_setText(editor_, "Mode", nullptr), KESTEDIT_BAD_ARGUMENT);
     EXPECT_EQ(kestEdit_setInteger(editor_, "JobDir", 4), KESTEDIT_WRONG_TYPE);
     EXPECT_EQ(kestEdit_setText(editor_, "View", "4"), KESTEDIT_WRONG_TYPE);
-    EXPECT_STREQ(kestEdit_lastError(), "the property View takes an integer");
     EXPECT_EQ(kestEdit_setInteger(editor_, "View", 32767), KESTEDIT_OK);
     EXPECT_EQ(kestEdit_setInteger(editor_, "View", 32768), KESTEDIT_BAD_ARGUMENT);
     EXPECT_EQ(kestEdit_show(editor_, -32769), KESTEDIT_BAD_ARGUMENT);

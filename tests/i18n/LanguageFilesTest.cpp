@@ -1,12 +1,9 @@
 // What a language file brings into the form, and what a translator can get wrong in those that the product ships.
 #include <algorithm>
-#include <fstream>
 #include <gtest/gtest.h>
 #include <map>
 #include <optional>
 #include <set>
-#include <string>
-#include <vector>
 
 #include "i18n/LoadLanguage.h"
 #include "i18n/PickLists.h"
@@ -54,33 +51,28 @@ TEST_F(LanguageTest, WithoutAFileOnlyTwoButtonsAndTheUnitsHaveTexts) {
 
 TEST_F(LanguageTest, OneTextReachesAllItsTargetsAndOnlyTheCatalogueGetsTheBlank) {
     form.TextCatalogue.clear();  // as it is released with the form's texts
-    loadLines("[frmEdit]\nt34=Leere Ordner\nt25=Ziel\nt07=wrong\nt7=Move\n[Weekdays]\nt0=Mon\nt1=Tue\n");
+    loadLines(
+        "[frmEdit]\nt34=Leere Ordner\nt25=Ziel\nt07=wrong\nt7=Move\nt154=later\nt142=earlier\nt139=alone\n"
+        "[Weekdays]\nt0=Mon\nt1=Tue\n");
     EXPECT_EQ(form.TextCatalogue[5], "Leere Ordner ");
     for (const char* name : {"chkDelEFol", "chkDelEFolSource", "chkZipDelCompBinFolder"})
         EXPECT_EQ(form.at(name).Caption, "Leere Ordner") << name;
     for (const std::size_t entry : {13U, 48U, 75U})
         EXPECT_EQ(form.TextCatalogue[entry], "Ziel") << entry;
     EXPECT_EQ(form.optAction[1].Caption, "Move") << "keys have no leading zero";
+    EXPECT_EQ(form.lblDestZDec.Caption, "later") << "of two keys for one target";
+    EXPECT_EQ(form.lblDestZExist.Caption, "") << "the later key is missing";
     EXPECT_EQ(form.dxIntWeekDay.Items, (std::vector<std::string>{"Mon", "Tue", "", "", "", "", ""}));
-}
-
-TEST_F(LanguageTest, TheLaterOfTwoKeysStandsEvenWhenItIsMissing) {
-    loadLines("[frmEdit]\nt154=later\nt142=earlier\nt139=alone\n");
-    EXPECT_EQ(form.lblDestZDec.Caption, "later");
-    EXPECT_EQ(form.lblDestZExist.Caption, "");
 }
 
 TEST_F(LanguageTest, ASelectedEntryKeepsItsPositionWhenTheLanguageChanges) {
     load(shippedLanguage("german"));
     EXPECT_EQ(form.dxPickRenamer.text(), form.dxPickRenamer.Items[0]) << "nothing was selected before";
-    const std::map<std::string, std::size_t> selected{
-        {"dxIntWeekDay", 6}, {"dxMonWatch", 3}, {"dxPickRenamer", 2}, {"dxPickExistSelecter", 5}};
-    for (const auto& [list, position] : selected)
-        form.at(list).EditValue = form.at(list).Items.at(position);
+    for (EditorControl* list : {&form.dxIntWeekDay, &form.dxMonWatch, &form.dxPickRenamer})
+        list->EditValue = list->Items.back();
     load(shippedLanguage("english"));
-    for (const auto& [list, position] : selected)
-        EXPECT_EQ(form.at(list).text(), form.at(list).Items.at(position)) << list;
-    EXPECT_EQ(form.dxIntWeekDay.text(), "Sunday");
+    for (const EditorControl* list : {&form.dxIntWeekDay, &form.dxMonWatch, &form.dxPickRenamer})
+        EXPECT_EQ(list->text(), list->Items.back()) << list->Name();
     ReplaceItems(form.dxIntWeekDay, {"Sunday", "Monday"});
     EXPECT_TRUE(form.dxIntWeekDay.isEmpty()) << "nothing stands at the position, and the text does not count";
 }
@@ -132,20 +124,16 @@ const EditorControl* pageOf(const EditorControl& control) {
 }
 
 TEST_P(LanguageFile, HasEachMnemonicOnceOnAPage) {
-    std::map<const EditorControl*, std::vector<const EditorControl*>> pages;
+    std::map<const EditorControl*, std::map<char32_t, std::string>> taken;
     for (const EditorControl* control : form.controls()) {
-        if (mnemonic(control->Caption)) pages[pageOf(*control)].push_back(control);
+        const auto letter = mnemonic(control->Caption);
+        if (!letter) continue;
+        // The commands beside the pages stand first in the form, and are to be reached from each page.
+        auto& letters = taken.try_emplace(pageOf(*control), taken[nullptr]).first->second;
+        const auto [other, isNew] = letters.emplace(*letter, control->Name());
+        EXPECT_TRUE(isNew) << control->Name() << " \"" << control->Caption << "\" and " << other->second;
     }
-    const auto& commands = pages[nullptr];
-    ASSERT_EQ(commands.size(), 4U) << "every button beside the pages has one";
-    for (auto& [page, controls] : pages) {
-        if (page) controls.insert(controls.end(), commands.begin(), commands.end());
-        std::map<char32_t, std::string> taken;
-        for (const EditorControl* control : controls) {
-            const auto [other, isNew] = taken.emplace(*mnemonic(control->Caption), control->Name());
-            EXPECT_TRUE(isNew) << control->Name() << " \"" << control->Caption << "\" and " << other->second;
-        }
-    }
+    EXPECT_EQ(taken[nullptr].size(), 4U) << "every button beside the pages has one";
 }
 
 TEST_P(LanguageFile, HasNoMnemonicWhereATextGoesIntoALongerOne) {
