@@ -9,24 +9,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct TextFilters : test::EditorTest {
-    /// Every filtered field can be reached.
-    void openFilters() {
-        create();
-        check("chkSubFolder");
-        for (const auto group : {"optFolderMatch", "optFileMatch", "optExt"})
-            choose(group, 1);
-        choose("optExist", 2);
-    }
-    [[nodiscard]] std::string flags() {
-        return std::string(form().InvalidExtChars ? "ext " : "") + (form().InvalidRenamerChars ? "renamer " : "") +
-               (form().InvalidFileNameChars ? "file " : "") + (form().InvalidFolderMatchChars ? "folder " : "");
-    }
-};
-struct SpinButtons : test::EditorTest {};
-struct Events : test::EditorTest {};
+using TextFilters = test::EditorTest;
+using SpinButtons = test::EditorTest;
+using Events = test::EditorTest;
 struct NewFolder : test::EditorTest {
-    static constexpr std::array<std::string_view, 3> fields{"dxSource", "dxDest", "dxMonitorPath"};
+    static constexpr std::array fields{"dxSource", "dxDest", "dxMonitorPath"};
     void openFields() {
         create();
         choose("optIntervall", 2);
@@ -34,45 +21,48 @@ struct NewFolder : test::EditorTest {
         for (const auto field : fields)
             type(field, jobs.string());
     }
-    /// Button 1 of the field, then a name typed and the button pressed; the dialog is cancelled when it stays open.
-    void createFolder(std::string_view field, const std::string& name) {
+    /// Button 1 of the field, then a name typed and the button pressed. Whether that closed the dialog.
+    bool createFolder(std::string_view field, const std::string& name) {
+        bool closed = false;
         prompts.newFolder = [&](dlgNewFolder& dialog) {
             dialog.onTextTyped(dialog.dxTextEdit1, name);
             dialog.onCommand(dialog.cmdCreate);
-            stayedOpen = dialog.isOpen();
-            dialog.onCommand(dialog.cmdCancel);
-            EXPECT_FALSE(dialog.isOpen());
+            closed = !dialog.isOpen();
         };
         button(field, 1);
+        return closed;
     }
-    bool stayedOpen = false;
 };
 using Choosers = NewFolder;
 
 TEST_F(TextFilters, DropWhatTheFieldDoesNotTakeUnlessItIsARegularExpression) {
-    const std::tuple<std::string_view, std::string, std::string, std::string_view, std::string_view> rows[] = {
-        {"dxExt", "Dö_1.T?;-X, *Ü", "Dö1.TX, *Ü", "ext ", ""},
-        {"dxRenamer", "Ä 2024-01_r.doc", "Ä 2024-01_rdoc", "renamer ", ""},
-        {"dxFileName", "É*?é_.<>|/\\:´~^¨¦`\"", "É*?é_.", "file ", "chkRegExFile"},
-        {"dxFolderMatch", "x:\\y", "xy", "folder ", "chkRegExFolder"},
+    const std::tuple<std::string_view, std::string, std::string, bool FormModel::*, std::string_view> rows[] = {
+        {"dxExt", "Dö_1.T?;-X, *Ü", "Dö1.TX, *Ü", &FormModel::InvalidExtChars, ""},
+        {"dxRenamer", "Ä 2024-01_r.doc", "Ä 2024-01_rdoc", &FormModel::InvalidRenamerChars, ""},
+        {"dxFileName", "É*?é_.<>|/\\:´~^¨¦`\"", "É*?é_.", &FormModel::InvalidFileNameChars, "chkRegExFile"},
+        {"dxFolderMatch", "x:\\y", "xy", &FormModel::InvalidFolderMatchChars, "chkRegExFolder"},
     };
     for (const auto& [field, typed, kept, flag, regEx] : rows) {
         SCOPED_TRACE(typed);
-        openFilters();
+        create();
+        check("chkSubFolder");
+        for (const auto group : {"optFolderMatch", "optFileMatch", "optExt"})
+            choose(group, 1);
+        choose("optExist", 2);
         type(field, kept);
-        EXPECT_EQ(flags(), "");
+        EXPECT_FALSE(form().*flag);
         type(field, typed);
         EXPECT_EQ(at(field).text(), kept);
         type(field, kept);
-        EXPECT_EQ(flags(), flag) << "a flag stays when the field is clean";
+        EXPECT_TRUE(form().*flag) << "stays when the field is clean";
         if (regEx.empty()) continue;
-        check(regEx, 2);
-        type(field, typed);
-        EXPECT_EQ(at(field).text() + flags(), kept + std::string{flag}) << "grey is not set";
-        check(regEx);
-        type(field, typed);
+        for (const int grey : {2, 1}) {
+            check(regEx, grey);
+            type(field, typed);
+            EXPECT_EQ(at(field).text(), grey == 2 ? kept : typed);
+        }
         check(regEx, 0);
-        EXPECT_EQ(at(field).text() + flags(), typed) << "filtered by the next edit only";
+        EXPECT_EQ(at(field).text(), typed) << "filtered by the next edit only";
         type(field, typed + "x");
         EXPECT_EQ(at(field).text(), kept + "x");
     }
@@ -81,13 +71,11 @@ TEST_F(TextFilters, DropWhatTheFieldDoesNotTakeUnlessItIsARegularExpression) {
 TEST_F(SpinButtons, CarryBorrowAndStopAtOneMinute) {
     using Numbers = std::array<std::int64_t, 3>;  // days, hours, minutes
     const std::tuple<Numbers, std::size_t, bool, Numbers> rows[] = {
-        {{0, 23, 59}, 2, true, {1, 0, 0}},  {{0, 5, 59}, 2, true, {0, 6, 0}},
-        {{2, 0, 0}, 2, false, {1, 23, 59}}, {{0, 2, 0}, 2, false, {0, 1, 59}},
-        {{0, 0, 1}, 2, false, {0, 0, 1}},   {{0, 0, 0}, 2, false, {0, 0, 1}},
-        {{0, 0, 75}, 2, true, {0, 0, 76}},  {{1, 23, 10}, 1, true, {2, 0, 10}},
-        {{3, 0, 7}, 1, false, {2, 23, 7}},  {{0, 0, 5}, 1, false, {0, 0, 5}},
-        {{0, 1, 0}, 1, false, {0, 0, 1}},   {{1, 0, 0}, 0, false, {0, 0, 1}},
-        {{0, 0, 3}, 0, false, {0, 0, 3}},   {{999'999'999, 0, 0}, 0, true, {999'999'999, 0, 0}},
+        {{0, 23, 59}, 2, true, {1, 0, 0}}, {{0, 5, 59}, 2, true, {0, 6, 0}},   {{2, 0, 0}, 2, false, {1, 23, 59}},
+        {{0, 2, 0}, 2, false, {0, 1, 59}}, {{0, 0, 1}, 2, false, {0, 0, 1}},   {{0, 0, 0}, 2, false, {0, 0, 1}},
+        {{0, 0, 75}, 2, true, {0, 0, 76}}, {{1, 23, 10}, 1, true, {2, 0, 10}}, {{3, 0, 7}, 1, false, {2, 23, 7}},
+        {{0, 0, 5}, 1, false, {0, 0, 5}},  {{0, 1, 0}, 1, false, {0, 0, 1}},   {{1, 0, 0}, 0, false, {0, 0, 1}},
+        {{0, 0, 3}, 0, false, {0, 0, 3}},
     };
     constexpr std::array<std::array<const char*, 6>, 2> groups{
         {{"dxDays", "dxHours", "dxMinutes", "lblDays", "lblHours", "lblMinutes"},
@@ -110,22 +98,27 @@ TEST_F(SpinButtons, CarryBorrowAndStopAtOneMinute) {
 
 TEST_F(Events, RefusedWhereAUserCouldNotActAndNothingChanges) {
     create();
-    expectRefused([&] { type("dxRenamer", "hidden"); });
-    expectRefused([&] { number("dxFreeSpace", 5000); });  // disabled
-    expectRefused([&] { choose("optSyncStart", 1); });    // in a hidden group frame
-    expectRefused([&] { check("dxName"); });              // of another kind
-    expectRefused([&] { check("chkPreview", 3); });
-    expectRefused([&] { number("dxHours", -1); });
-    expectRefused([&] { form().onItemPicked(at("dxMonWatch"), "Archiv"); });
-    expectRefused([&] { button("dxSource", 2); });
     check("chkEditPaths", 0);
-    expectRefused([&] { type("dxSource", "/typed"); });
     choose("optIntervall", 1);
     choose("optIntTime", 2);
-    expectRefused([&] { number("dxIntMonthDay", 32); });
-    expectRefused([&] { form().onTimeChosen(at("dxDateTime"), std::chrono::hours{24}); });
-    expectRefused([&] { type("dxComment", "日本"); });  // not in the code page
-    expectRefused([&] { type("dxName", "bad \xff"); });
+    const std::pair<const char*, std::function<void()>> events[] = {
+        {"hidden", [this] { type("dxRenamer", "x"); }},
+        {"disabled", [this] { number("dxFreeSpace", 5000); }},
+        {"in a hidden frame", [this] { choose("optSyncStart", 1); }},
+        {"of another kind", [this] { check("dxName"); }},
+        {"no state of a box", [this] { check("chkPreview", 3); }},
+        {"no day of a month", [this] { number("dxIntMonthDay", 32); }},
+        {"no entry of the list", [this] { form().onItemPicked(at("dxZipGrade"), "x"); }},
+        {"no time of a day", [this] { form().onTimeChosen(at("dxDateTime"), std::chrono::hours{24}); }},
+        {"no button of the field", [this] { button("dxSource", 2); }},
+        {"filled by its buttons only", [this] { type("dxSource", "/typed"); }},
+        {"not in the code page", [this] { type("dxComment", "日本"); }},
+        {"not UTF-8", [this] { type("dxName", "bad \xff"); }},
+    };
+    for (const auto& [reason, event] : events) {
+        SCOPED_TRACE(reason);
+        expectRefused(event);
+    }
     act(3);
     check("chkZipAll");  // on a page that is not shown
     EXPECT_EQ(form().chkZipAll.State, 1);
@@ -133,27 +126,24 @@ TEST_F(Events, RefusedWhereAUserCouldNotActAndNothingChanges) {
 
 TEST_F(Choosers, PathGoesIntoItsField) {
     openFields();
-    const std::pair<const char*, const char*> rows[] = {{"dxSource", "Quellverzeichnis auswählen:"},
-                                                        {"dxDest", "Zielverzeichnis auswählen:"},
-                                                        {"dxMonitorPath", "Verzeichnis für Überwachung auswählen:"}};
-    for (const auto& [field, heading] : rows) {
-        button(field, 0);
-        EXPECT_EQ(at(field).text(), jobs.string()) << "cancelled";
-        check("chkEditPaths", 0);
+    check("chkEditPaths", 0);
+    const std::array<std::string, 3> titles{"Quellverzeichnis", "Zielverzeichnis", "Verzeichnis für Überwachung"};
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        const EditorControl& field = at(fields[i]);
+        button(fields[i], 0);
+        EXPECT_EQ(field.text(), jobs.string()) << "cancelled";
         prompts.choices = {"/chosen"};
-        button(field, 0);
-        check("chkEditPaths");
-        EXPECT_EQ(at(field).text() + at(field).ToolTipText, "/chosen/chosen");
+        button(fields[i], 0);
+        EXPECT_EQ(field.text() + field.ToolTipText, "/chosen/chosen");
         const FolderRequest& request = prompts.folders.back();
-        EXPECT_EQ(request.title + request.initialPath, heading + jobs.string());
-        EXPECT_EQ(request.flags, 69U);
+        EXPECT_EQ(request.title + request.initialPath, titles[i] + " auswählen:" + jobs.string());
     }
     prompts.choices = {"/日本"};
-    expectRefused([&] { button("dxSource", 0); });
+    expectRefused([this] { button("dxSource", 0); });
     check("chkExecDo");
-    button("dxExecPath", 1);
-    EXPECT_TRUE(prompts.programs.empty());
     prompts.choices = {"/usr/bin/true"};
+    button("dxExecPath", 1);
+    EXPECT_EQ(form().dxExecPath.text(), "") << "it has one button";
     button("dxExecPath", 0);
     EXPECT_EQ(form().dxExecPath.text(), "/usr/bin/true");
     EXPECT_EQ(prompts.programs.back().filter, "Programme (*.exe, *.com, *.bat)|*.exe;*.com;*.bat");
@@ -163,46 +153,23 @@ TEST_F(NewFolder, ExistingFolderIsReportedByField) {
     openFields();
     constexpr std::array messages{"Folder already exists.", "Ordner existiert schon.", "Ordner existiert schon."};
     for (std::size_t i = 0; i < fields.size(); ++i) {
-        const std::string name = "ä" + std::string{fields[i]};
+        const std::string name = "ä" + std::to_string(i);
         fs::create_directory(jobs / name);
         prompts.answers = {Answer::ok};
-        createFolder(fields[i], name);
+        EXPECT_FALSE(createFolder(fields[i], name));
         EXPECT_EQ(prompts.messages.back().text, messages[i]);
-        EXPECT_TRUE(stayedOpen);
         EXPECT_EQ(at(fields[i]).text(), jobs.string());
         fs::remove(jobs / name);
-        createFolder(fields[i], name);
+        EXPECT_TRUE(createFolder(fields[i], name));
         EXPECT_TRUE(fs::is_directory(jobs / name));
-        EXPECT_FALSE(stayedOpen);
         const std::string created = (jobs / name).string();
         EXPECT_EQ(at(fields[i]).text() + at(fields[i]).ToolTipText, created + created);
-        type(fields[i], jobs.string());
     }
     prompts.answers = {Answer::ok};
-    createFolder("dxDest", "../b");
-    EXPECT_TRUE(stayedOpen);
+    EXPECT_FALSE(createFolder("dxDest", "../b"));
     EXPECT_NE(prompts.messages.back().text.find("../b: "), std::string::npos) << prompts.messages.back().text;
-    EXPECT_EQ(form().dxDest.text(), jobs.string());
-    EXPECT_THROW(createFolder("dxDest", "日本"), EventRefused);
-}
-
-TEST_F(NewFolder, ComesInTheUsersColourAndNeedsTwoCharacters) {
-    openFields();
-    const std::pair<std::string, std::optional<std::int64_t>> rows[] = {
-        {"16711680", 16711680}, {"5", std::nullopt}, {"12 blue", std::nullopt}, {"16777216", std::nullopt}};
-    for (const auto& row : rows) {
-        settings.write("Options", "BGColor", row.first);
-        prompts.newFolder = [&](dlgNewFolder& dialog) {
-            EXPECT_EQ(dialog.BackColour, row.second) << row.first;
-            for (const auto& [name, enabled] : {std::pair{"ä", false}, {"äb", true}, {"a", false}}) {
-                dialog.onTextTyped(dialog.dxTextEdit1, name);
-                EXPECT_EQ(dialog.cmdCreate.Enabled, enabled) << name;
-            }
-            EXPECT_THROW(dialog.onCommand(dialog.cmdCreate), EventRefused);
-        };
-        button("dxDest", 1);
-        EXPECT_EQ(form().dxDest.text() + jobNames(), jobs.string());
-    }
+    expectRefused([this] { createFolder("dxDest", "日本"); });
+    expectRefused([this] { createFolder("dxDest", "ä"); });  // a name has two characters
 }
 
 }  // namespace
