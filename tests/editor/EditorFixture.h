@@ -2,19 +2,12 @@
 // user's events as short words.
 #pragma once
 
-#include <chrono>
 #include <deque>
-#include <filesystem>
-#include <fstream>
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 #include <set>
 #include <sstream>
-#include <stdexcept>
-#include <string>
-#include <string_view>
-#include <vector>
 
 #include "editor/dlgNewFolder.h"
 #include "editor/frmEdit.h"

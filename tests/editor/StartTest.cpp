@@ -33,16 +33,14 @@ TEST_F(Start, WindowSettings) {
     }
 }
 
-TEST_F(Start, EditPathsIsWrittenBackAndHoldsForEveryForm) {
+TEST_F(Start, EditPathsIsWrittenBack) {
     create();
-    check("chkEditPaths", 0);
-    EXPECT_TRUE(form().dxSource.ReadOnly && form().dxDest.ReadOnly && form().dxMonitorPath.ReadOnly);
-    EXPECT_EQ(test::bytesOf(values.INIFile), "[EditWin]\r\nchkEditPaths=0\r\n");
-    putJob("a", "[Job]\n");
-    for (const int view : test::allViews)
-        EXPECT_TRUE(edit("a", view).dxSource.ReadOnly) << view;
-    check("chkEditPaths");
-    EXPECT_EQ(test::bytesOf(values.INIFile), "[EditWin]\r\nchkEditPaths=1\r\n");
+    for (const int state : {0, 1}) {
+        check("chkEditPaths", state);
+        for (const EditorControl* field : {&form().dxSource, &form().dxDest, &form().dxMonitorPath})
+            EXPECT_EQ(field->ReadOnly, state == 0) << field->Name();
+        EXPECT_EQ(test::bytesOf(values.INIFile), "[EditWin]\r\nchkEditPaths=" + std::to_string(state) + "\r\n");
+    }
 }
 
 TEST_F(Start, NewJobDefaults) {
