@@ -1,6 +1,5 @@
 // The way of a form into a job file and back.
 #include <array>
-#include <filesystem>
 #include <gtest/gtest.h>
 #include <limits>
 #include <regex>
