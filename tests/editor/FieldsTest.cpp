@@ -111,6 +111,7 @@ TEST_F(Events, RefusedWhereAUserCouldNotActAndNothingChanges) {
         {"no entry of the list", [this] { form().onItemPicked(at("dxZipGrade"), "x"); }},
         {"no time of a day", [this] { form().onTimeChosen(at("dxDateTime"), std::chrono::hours{24}); }},
         {"no button of the field", [this] { button("dxSource", 2); }},
+        {"the button of a hidden field", [this] { button("dxMonitorPath", 0); }},
         {"filled by its buttons only", [this] { type("dxSource", "/typed"); }},
         {"not in the code page", [this] { type("dxComment", "日本"); }},
         {"not UTF-8", [this] { type("dxName", "bad \xff"); }},
