@@ -21,31 +21,27 @@ namespace {
 
 using Field = WindowTest;
 
-TEST_F(Field, FilterKeepsTheCaretBehindTheKeptCharacters) {
+TEST_F(Field, FilterKeepsTheCaretAndUndoPassesByWhatItDropped) {
     open();
     press("optExt(1)");
-    enter("dxExt", "txt, log");
-    line("dxExt").setCursorPosition(3);
-    QTest::keyClicks(&line("dxExt"), "_x?y");
-    EXPECT_EQ(line("dxExt").text(), "txtxy, log");
-    EXPECT_EQ(line("dxExt").cursorPosition(), 5);
-    QApplication::clipboard()->setText("a-b-c");
-    line("dxExt").setCursorPosition(0);
-    QTest::keyClick(&line("dxExt"), Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(line("dxExt").text(), "abctxtxy, log");
-    EXPECT_EQ(line("dxExt").cursorPosition(), 3);
-}
-
-TEST_F(Field, UndoPassesByWhatTheFilterDropped) {
-    open();
-    press("optExt(1)");
+    QLineEdit& types = line("dxExt");
     enter("dxExt", "txt_-;");
-    QTest::keyClick(&line("dxExt"), Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(line("dxExt").text(), "");
+    QTest::keyClick(&types, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(types.text(), "");
     EXPECT_EQ(at("dxExt").text(), "");
-    QTest::keyClick(&line("dxExt"), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_EQ(line("dxExt").text(), "txt");
+    QTest::keyClick(&types, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(types.text(), "txt");
     EXPECT_EQ(at("dxExt").text(), "txt");
+    QTest::keyClicks(&types, ", log");
+    types.setCursorPosition(3);
+    QTest::keyClicks(&types, "_x?y");
+    EXPECT_EQ(types.text(), "txtxy, log");
+    EXPECT_EQ(types.cursorPosition(), 5);
+    QApplication::clipboard()->setText("a-b-c");
+    types.setCursorPosition(0);
+    QTest::keyClick(&types, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(types.text(), "abctxtxy, log");
+    EXPECT_EQ(types.cursorPosition(), 3);
 }
 
 TEST_F(Field, PatternSaysWhatItMeansAndWhatIsWrongWithIt) {
@@ -99,7 +95,7 @@ TEST_F(Field, WheelPassesOverFieldsWithoutTheFocus) {
     turnWheel(focusOf("dxHours"));
     EXPECT_EQ(at("dxHours").number(), hours);
     turnWheel(focus("dxHours"));
-    EXPECT_NE(at("dxHours").number(), hours);
+    EXPECT_LT(at("dxHours").number(), hours);
 }
 
 TEST_F(Field, NumberMayBeEmptyAndLargeAndKeepsItsRange) {
@@ -114,6 +110,8 @@ TEST_F(Field, NumberMayBeEmptyAndLargeAndKeepsItsRange) {
     enter("dxIntMonthDay", "31");
     QTest::keyClick(&focusOf("dxIntMonthDay"), Qt::Key_Up);
     EXPECT_EQ(shownBy<NumberEdit>("dxIntMonthDay").text(), "31");
+    QTest::keyClick(&focusOf("dxIntMonthDay"), Qt::Key_Down);
+    EXPECT_EQ(shownBy<NumberEdit>("dxIntMonthDay").text(), "30");
 }
 
 TEST_F(Field, DatesFollowTheUsersFormatAndMayBeEmpty) {
@@ -145,25 +143,22 @@ TEST_F(Field, DatesFollowTheUsersFormatAndMayBeEmpty) {
     QLocale::setDefault(QLocale::system());
 }
 
-TEST_F(Field, PasswordIsHiddenUntilItsButtonShowsIt) {
+TEST_F(Field, ButtonsInsideShowAPasswordAndFillAPathThatCannotBeTyped) {
     open();
     press("optAction(3)");
-    enter("dxZipPwd", "secret");
     auto& password = shownBy<PasswordEdit>("dxZipPwd");
-    EXPECT_EQ(password.line().echoMode(), QLineEdit::Password);
-    QTest::mouseClick(password.buttons().front(), Qt::LeftButton);
-    EXPECT_EQ(password.line().echoMode(), QLineEdit::Normal);
-    QTest::mouseClick(password.buttons().front(), Qt::LeftButton);
-    EXPECT_EQ(password.line().echoMode(), QLineEdit::Password);
-}
-
-TEST_F(Field, InnerButtonsFillAPathThatCannotBeTyped) {
-    open();
+    turnTo("dxZipPwd");
+    for (const auto mode : {QLineEdit::Password, QLineEdit::Normal, QLineEdit::Password}) {
+        EXPECT_EQ(password.line().echoMode(), mode);
+        QTest::mouseClick(password.buttons().front(), Qt::LeftButton);
+    }
     press("chkEditPaths");
+    const auto& source = shownBy<PathEdit>("dxSource");
     EXPECT_TRUE(line("dxSource").isReadOnly());
-    prompts.choices = {folder.path().string()};
-    QTest::mouseClick(shownBy<PathEdit>("dxSource").buttons().front(), Qt::LeftButton);
-    EXPECT_EQ(line("dxSource").text().toStdString(), folder.path().string());
+    prompts.choices = {"/srv/<b>a</b>"};
+    QTest::mouseClick(source.buttons().front(), Qt::LeftButton);
+    EXPECT_EQ(line("dxSource").text(), "/srv/<b>a</b>");
+    EXPECT_FALSE(source.toolTip().contains("<b>")) << "a tool tip is never markup";
     EXPECT_FALSE(shownBy<PathEdit>("dxExecPath").newFolderButton());
 }
 

@@ -48,17 +48,7 @@ TEST_F(Keyboard, TabWalksThePageInTheFormsSequence) {
     }
 }
 
-TEST_F(Keyboard, ArrowsLeadThroughAnOptionGroup) {
-    open();
-    QTest::keyClick(&focus("optSize(0)"), Qt::Key_Down);
-    EXPECT_TRUE(at("optSize(1)").isSet());
-    EXPECT_TRUE(focusOf("dxSize").isVisible());
-    QTest::keyClick(&focusOf("optSize(1)"), Qt::Key_Down);
-    EXPECT_TRUE(at("optSize(2)").isSet());
-    EXPECT_FALSE(at("optSize(1)").isSet());
-}
-
-TEST_F(Keyboard, KeysWalkTheListAndThePageFollows) {
+TEST_F(Keyboard, KeysWalkTheListThePageFollowsAndArrowsLeadThroughAnOptionGroup) {
     open();
     list().setFocus();
     const auto pageAfter = [this](Qt::Key key, Qt::KeyboardModifiers with = Qt::NoModifier) {
@@ -72,12 +62,25 @@ TEST_F(Keyboard, KeysWalkTheListAndThePageFollows) {
     EXPECT_EQ(pageAfter(Qt::Key_Up), "fraMode");
     EXPECT_EQ(pageAfter(Qt::Key_End), "fraExisting");
     EXPECT_EQ(pageAfter(Qt::Key_PageDown, Qt::ControlModifier), "fraComment");
-    line("dxName").setFocus();
+    QTest::keyClick(&window(), Qt::Key_N, Qt::AltModifier);  // "&Name des Auftrages"
+    EXPECT_TRUE(line("dxName").hasFocus());
+    EXPECT_EQ(form().FocusedControl, &at("dxName"));
     EXPECT_EQ(pageAfter(Qt::Key_PageUp, Qt::ControlModifier), "fraExisting");
+    QTest::keyClick(&focus("optSize(0)"), Qt::Key_Down);
+    EXPECT_TRUE(at("optSize(1)").isSet());
+    EXPECT_TRUE(focusOf("dxSize").isVisible());
+    QTest::keyClick(&focusOf("optSize(1)"), Qt::Key_Down);
+    EXPECT_TRUE(at("optSize(2)").isSet());
+    EXPECT_FALSE(at("optSize(1)").isSet());
 }
 
-TEST_F(Keyboard, ControlSSavesEscapeCancelsAndReturnDoesNeither) {
+TEST_F(Keyboard, ControlSSavesEscapeCancelsReturnDoesNeitherAndF1TellsThatThereIsNoHelp) {
+    values.HelpFile = (folder.path() / "help.html").string();
     open();
+    prompts.answers = {Answer::ok};
+    QTest::keyClick(&window(), Qt::Key_F1);
+    ASSERT_EQ(prompts.messages.size(), 1U);
+    EXPECT_TRUE(prompts.messages[0].text.ends_with(values.HelpFile)) << prompts.messages[0].text;
     enter("dxName", "Backup");
     QTest::keyClick(&line("dxName"), Qt::Key_Return);
     EXPECT_EQ(visibleFrames(), "fraComment");
@@ -92,14 +95,6 @@ TEST_F(Keyboard, ControlSSavesEscapeCancelsAndReturnDoesNeither) {
     EXPECT_FALSE(form().isOpen());
     EXPECT_FALSE(window().isVisible());
     EXPECT_EQ(jobNames(), "Backup.job ");
-}
-
-TEST_F(Keyboard, AltAndLetterGoToTheFieldOfTheLabel) {
-    open();
-    list().setFocus();
-    QTest::keyClick(&window(), Qt::Key_N, Qt::AltModifier);  // "&Name des Auftrages"
-    EXPECT_TRUE(line("dxName").hasFocus());
-    EXPECT_EQ(form().FocusedControl, &at("dxName"));
 }
 
 }  // namespace

@@ -47,35 +47,33 @@ TEST_F(Life, OpensAtTheNameAndItsCloseBoxCancelsNothing) {
     EXPECT_FALSE(values.Cancelled);
 }
 
-TEST_F(Life, FailedSaveIsToldWithTheReasonAndKeepsTheForm) {
+TEST_F(Life, SavesThatFailAreToldWithTheReasonAndKeepTheForm) {
     open();
+    enter("dxName", "a/b");
+    clickNode(8);
+    prompts.answers = {Answer::ok, Answer::ok};
+    press("cmdSave");
+    EXPECT_EQ(window().currentPage()->widget()->objectName(), "fraComment");
+    EXPECT_TRUE(line("dxName").hasFocus());
     enter("dxName", "Backup");
     std::filesystem::remove_all(jobs);
     std::ofstream(jobs) << "a file where the folder of the jobs was";
-    prompts.answers = {Answer::ok};
     press("cmdSave");
-    ASSERT_EQ(prompts.messages.size(), 1U);
-    EXPECT_EQ(prompts.messages[0].title, "kestEdit");
-    EXPECT_NE(prompts.messages[0].text.find("Backup.job\": Not a directory"), std::string::npos)
-        << prompts.messages[0].text;
+    ASSERT_EQ(prompts.messages.size(), 2U);
+    EXPECT_EQ(prompts.messages[1].title, "kestEdit");
+    EXPECT_NE(prompts.messages[1].text.find("Backup.job\": Not a directory"), std::string::npos)
+        << prompts.messages[1].text;
     EXPECT_TRUE(form().isOpen());
     EXPECT_TRUE(window().isVisible());
     EXPECT_EQ(line("dxName").text(), "Backup");
 }
 
-TEST_F(Life, SaveThatFindsAGapLeadsToTheField) {
-    open();
-    enter("dxName", "a/b");
-    clickNode(8);
-    prompts.answers = {Answer::ok};
-    press("cmdSave");
-    EXPECT_EQ(window().currentPage()->widget()->objectName(), "fraComment");
-    EXPECT_TRUE(line("dxName").hasFocus());
-}
-
-TEST_F(Life, SizeSplitterAndPageAreRememberedPerUser) {
+TEST_F(Life, SizeSplitterAndPageAreRememberedPerUserAndFitTheScreen) {
     putJob("Backup", "[Job]\r\nName=Backup\r\n");
+    folder.file("user.ini", "[Window]\r\nWidth=90000\r\nHeight=nonsense\r\nPage4=99\r\n");
     openJob("Backup");
+    EXPECT_LE(window().width(), window().screen()->availableSize().width());
+    EXPECT_EQ(visibleFrames(), "fraComment");
     window().resize(701, 502);
     clickNode(6);
     window().findChild<QSplitter*>()->setSizes({260, 440});
@@ -92,29 +90,6 @@ TEST_F(Life, SizeSplitterAndPageAreRememberedPerUser) {
     EXPECT_EQ(visibleFrames(), "fraComment");
     open("New");
     EXPECT_EQ(visibleFrames(), "fraComment");
-}
-
-TEST_F(Life, RememberedSizeFitsTheScreen) {
-    std::ofstream(folder.path() / "user.ini") << "[Window]\r\nWidth=90000\r\nHeight=nonsense\r\nPage4=99\r\n";
-    putJob("Backup", "[Job]\r\nName=Backup\r\n");
-    openJob("Backup");
-    EXPECT_LE(window().width(), window().screen()->availableSize().width());
-    EXPECT_EQ(visibleFrames(), "fraComment");
-}
-
-TEST_F(Life, SmallViewHasTheNameAbovePaths) {
-    open("New", 23);
-    EXPECT_TRUE(line("dxName").isVisible());
-    EXPECT_LT(line("dxName").mapTo(&window(), QPoint()).y(), line("dxSource").mapTo(&window(), QPoint()).y());
-}
-
-TEST_F(Life, HelpKeyTellsWhenThereIsNoHelp) {
-    values.HelpFile = (folder.path() / "help.html").string();
-    open();
-    prompts.answers = {Answer::ok};
-    QTest::keyClick(&window(), Qt::Key_F1);
-    ASSERT_EQ(prompts.messages.size(), 1U);
-    EXPECT_TRUE(prompts.messages[0].text.ends_with(values.HelpFile)) << prompts.messages[0].text;
 }
 
 }  // namespace

@@ -1,10 +1,12 @@
 // Colours and pictures: the desktop's own, in light and dark, also when it changes its mind.
 #include <QLabel>
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <utility>
 
 #include "desktop/Icons.h"
+#include "desktop/widgets/PathEdit.h"
 #include "tests/desktop/WindowFixture.h"
 
 namespace kestedit::test {
@@ -48,6 +50,12 @@ double contrast(const QImage& picture, const QColor& background) {
     return strongest;
 }
 
+struct Scheme {
+    const char* name;
+    QPalette palette;
+    double text, edge;  ///< contrast that these need
+};
+
 class Look : public WindowTest {
   protected:
     void TearDown() override {
@@ -55,38 +63,9 @@ class Look : public WindowTest {
         QApplication::setPalette(QApplication::style()->standardPalette());
     }
     QImage picture() { return shownBy<QLabel>("Image1").pixmap().toImage(); }
-};
+    QImage markOf(int node) { return list().topLevelItem(node)->icon(1).pixmap(16).toImage(); }
 
-TEST_F(Look, PicturesFollowTheDesktopWhileOpen) {
-    open();
-    const QImage light = picture();
-    const QImage lightNode = list().topLevelItem(1)->icon(1).pixmap(16).toImage();
-    ASSERT_FALSE(light.isNull());
-    ASSERT_FALSE(lightNode.isNull());
-    QApplication::setPalette(darkPalette());
-    settle();
-    EXPECT_NE(picture(), light);
-    EXPECT_NE(list().topLevelItem(1)->icon(1).pixmap(16).toImage(), lightNode);
-    QApplication::setPalette(QApplication::style()->standardPalette());
-    settle();
-    EXPECT_EQ(picture(), light);
-}
-
-struct Scheme {
-    const char* name;
-    QPalette palette;
-    double text, edge;  ///< contrast that these need
-};
-
-class Schemes : public Look, public testing::WithParamInterface<Scheme> {};
-
-TEST_P(Schemes, EverythingStandsOutAfterAChangeWhileOpen) {
-    const auto& [name, palette, text, edge] = GetParam();
-    open();
-    QApplication::setPalette(palette);
-    settle();
-    for (int node = 0; node < list().topLevelItemCount(); ++node) {
-        clickNode(node);
+    void expectTextsToStandOut(double text) {
         for (const QWidget* widget : window().findChildren<QWidget*>()) {
             if (!widget->isVisible() || !widget->isEnabled()) continue;
             for (const auto& [front, back] : {std::pair{QPalette::WindowText, QPalette::Window},
@@ -94,24 +73,21 @@ TEST_P(Schemes, EverythingStandsOutAfterAChangeWhileOpen) {
                                               {QPalette::ButtonText, QPalette::Button},
                                               {QPalette::HighlightedText, QPalette::Highlight}})
                 EXPECT_GE(contrast(widget->palette().color(front), widget->palette().color(back)), text)
-                    << name << ": " << widget->objectName().toStdString() << " " << front;
+                    << widget->objectName().toStdString() << " " << front;
         }
-        const QIcon mark = list().topLevelItem(node)->icon(1);
-        if (mark.isNull()) continue;
-        EXPECT_GE(contrast(mark.pixmap(16).toImage(), list().palette().color(QPalette::Base)), edge) << name << node;
-        EXPECT_GE(contrast(mark.pixmap(16, QIcon::Selected).toImage(), list().palette().color(QPalette::Highlight)),
-                  edge)
-            << name << node;
     }
-    EXPECT_GE(contrast(picture(), window().palette().color(QPalette::Window)), edge) << name;
-}
 
-// Nothing in the box, nothing in the field: what is left to be seen is its line.
-TEST_P(Schemes, EmptyBoxesAndFieldsHaveAnEdge) {
-    open();
-    QApplication::setPalette(GetParam().palette);
-    settle();
-    for (const char* name : {"dxName", "dxComment", "cmdSave", "chkPreview", "optAction(1)", "dxHours"}) {
+    void expectMarkToStandOut(int node, double edge) {
+        const QIcon mark = list().topLevelItem(node)->icon(1);
+        if (mark.isNull()) return;
+        const QPalette& colours = list().palette();
+        EXPECT_GE(contrast(markOf(node), colours.color(QPalette::Base)), edge) << node;
+        const QImage selected = mark.pixmap(16, QIcon::Selected).toImage();
+        EXPECT_GE(contrast(selected, colours.color(QPalette::Highlight)), edge) << node;
+    }
+
+    /// Nothing in the box, nothing in the field: what is left to be seen is its line.
+    void expectEdge(const char* name, double edge) {
         if (at(name).Container) turnTo(name);
         QWidget& widget = binding(name).widget();
         // Round any other field with the focus the style draws its own line.
@@ -119,49 +95,61 @@ TEST_P(Schemes, EmptyBoxesAndFieldsHaveAnEdge) {
         focused.setFocus();
         const bool box = widget.inherits("QCheckBox") || widget.inherits("QRadioButton");
         const QRect empty = box ? QRect(0, 0, 14, widget.height()) : QRect(0, 0, widget.width(), 2);
-        EXPECT_GE(contrast(widget.grab(empty).toImage(), widget.palette().color(QPalette::Window)), GetParam().edge)
-            << name;
+        EXPECT_GE(contrast(widget.grab(empty).toImage(), widget.palette().color(QPalette::Window)), edge) << name;
+    }
+};
+
+TEST_F(Look, EverythingStandsOutInEachPaletteThatComesWhileOpen) {
+    const Scheme schemes[] = {{"dark", darkPalette(), 3.5, 3},
+                              {"black", contrastPalette(Qt::white, Qt::black, Qt::yellow), 7, 3},
+                              {"white", contrastPalette(Qt::black, Qt::white, Qt::darkBlue), 7, 3}};
+    open();
+    const auto pictures = [this] {
+        const QIcon browse = shownBy<PathEdit>("dxSource").buttons().front()->icon();
+        return std::array{picture(), markOf(1), browse.pixmap(16).toImage()};
+    };
+    const auto before = pictures();
+    for (const auto& [name, palette, text, edge] : schemes) {
+        SCOPED_TRACE(name);
+        QApplication::setPalette(palette);
+        settle();
+        const bool light = !isDark(palette.color(QPalette::Window));
+        for (std::size_t i = 0; i < before.size(); ++i)
+            EXPECT_EQ(pictures()[i] == before[i], light) << "picture " << i;
+        EXPECT_GE(contrast(picture(), window().palette().color(QPalette::Window)), edge);
+        for (int node = 0; node < list().topLevelItemCount(); ++node) {
+            clickNode(node);
+            expectTextsToStandOut(text);
+            expectMarkToStandOut(node, edge);
+        }
+        for (const char* control : {"dxName", "dxComment", "cmdSave", "chkPreview", "optAction(1)", "dxHours"})
+            expectEdge(control, edge);
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Palettes, Schemes,
-                         testing::Values(Scheme{"dark", darkPalette(), 3.5, 3},
-                                         Scheme{"black", contrastPalette(Qt::white, Qt::black, Qt::yellow), 7, 3},
-                                         Scheme{"white", contrastPalette(Qt::black, Qt::white, Qt::darkBlue), 7, 3}),
-                         [](const auto& scheme) { return std::string{scheme.param.name}; });
-
-TEST_F(Look, ListTakesItsColoursFromTheSettingsAsAPair) {
-    std::ofstream(values.INIFile) << "[Global]\r\nRowBgCol=8388608\r\nRowTxtCol=16777215\r\n";  // white on navy
+TEST_F(Look, ListTakesItsColoursAndIconsFromTheSettings) {
+    std::ofstream(values.INIFile) << "[Global]\r\nRowBgCol=8388608\r\nRowTxtCol=65535\r\n"  // yellow on navy
+                                     "[EditWin]\r\nShowIcons=0\r\n";
     QApplication::setPalette(darkPalette());
     open();
     EXPECT_EQ(list().palette().color(QPalette::Base), QColor(0, 0, 128));
-    EXPECT_EQ(list().palette().color(QPalette::Text), QColor(Qt::white));
-}
-
-TEST_F(Look, ListWithoutIconsHidesTheirColumn) {
-    std::ofstream(values.INIFile) << "[EditWin]\r\nShowIcons=0\r\n";
-    open();
+    EXPECT_EQ(list().palette().color(QPalette::Text), QColor(Qt::yellow));
     EXPECT_TRUE(list().isColumnHidden(1));
 }
 
-TEST_F(Look, MarksAreSaidInWords) {
+TEST_F(Look, MarksAndPictureFollowTheActionAndAreSaidInWords) {
     open();
     EXPECT_EQ(list().topLevelItem(1)->toolTip(1).toStdString(), at("optAction(0)").Caption);
     EXPECT_FALSE(list().topLevelItem(4)->toolTip(1).isEmpty());
-    press("optAction(2)");
-    EXPECT_EQ(list().topLevelItem(1)->toolTip(1).toStdString(), at("optAction(2)").Caption);
-    EXPECT_NE(list().topLevelItem(12)->data(0, Qt::AccessibleDescriptionRole).toString(), QString());
-}
-
-TEST_F(Look, ActionPictureFollowsActionAndPreview) {
-    open();
     const QImage copy = picture();
     press("optAction(5)");
+    EXPECT_EQ(list().topLevelItem(1)->toolTip(1).toStdString(), at("optAction(5)").Caption);
     const QImage synchronise = picture();
     EXPECT_NE(copy, synchronise);
     press("chkPreview");
     EXPECT_NE(picture(), synchronise);
-    EXPECT_EQ(shownBy<QLabel>("Image1").toolTip().toStdString(), at("Image1").ToolTipText);
+    press("optAction(2)");
+    EXPECT_NE(list().topLevelItem(12)->data(0, Qt::AccessibleDescriptionRole).toString(), QString());
 }
 
 // The files behind the numbers that the product uses are all there, in both families.
@@ -175,16 +163,6 @@ TEST(Icons, EveryPictureExistsInBothFamilies) {
             EXPECT_FALSE(icon(field, background).pixmap(16).toImage().isNull()) << field;
     }
     EXPECT_FALSE(programIcon().pixmap(48).toImage().isNull());
-}
-
-TEST_F(Look, CaptionsAndToolTipsAreNeverMarkup) {
-    open();
-    turnTo("dxSource");
-    prompts.choices = {"/srv/<b>a</b>"};
-    QTest::mouseClick(binding("dxSource").focusWidgets()[1], Qt::LeftButton);
-    EXPECT_FALSE(binding("dxSource").widget().toolTip().contains("<b>"));
-    EXPECT_EQ(toolTipText("plain"), "plain");
-    EXPECT_EQ(withoutMnemonic("&Save && close"), "Save & close");
 }
 
 }  // namespace

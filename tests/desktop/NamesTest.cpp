@@ -47,16 +47,16 @@ TEST_P(Names, EveryInputHasACaptionToSeeAndANameOfItsOwnOnThePage) {
 TEST_P(Names, MnemonicsAreUniqueAmongWhatIsSeen) {
     for (const int view : {4, 23}) {  // which share the pages' controls out in two ways
         open("New", view);
-        for (int action = 0; action < actionCount; ++action) {
+        for (const int action : {0, 2, 3, 4, 5}) {  // to move shows what to copy does
             press("optAction(" + std::to_string(action) + ")");
             for (int node = 0; node < list().topLevelItemCount(); ++node) {
                 clickNode(node);
                 SCOPED_TRACE(title(static_cast<std::size_t>(node)) + ", action " + std::to_string(action));
                 std::map<QString, QString> captions;
                 for (const QWidget* widget : window().findChildren<QWidget*>()) {
-                    const QString caption = widget->property("text").toString();
+                    const QString caption = widget->isVisible() ? widget->property("text").toString() : QString();
                     const QString key = QKeySequence::mnemonic(caption).toString();
-                    if (key.isEmpty() || !widget->isVisible()) continue;
+                    if (key.isEmpty()) continue;
                     const auto [other, isNew] = captions.emplace(key, caption);
                     EXPECT_TRUE(isNew) << caption.toStdString() << " and " << other->second.toStdString();
                 }
