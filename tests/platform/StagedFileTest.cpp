@@ -28,12 +28,15 @@ TEST_F(StagedFiles, theOldFileStandsUntilAllPiecesTakeItsPlaceInTheirOrder) {
     folder_.file("job", "old");
     const std::string large(100'000, 'x');
     const std::string_view pieces[] = {"ab", "", large, std::string_view("<\0>", 3)};
-    StagedFile dropped(target_, "dropped", keep);
-    StagedFile staged(target_, pieces, keep);
-    EXPECT_EQ(bytesOf(target_), "old");
-    EXPECT_EQ(folder_.names().size(), 3U);
-    dropped = std::move(staged);
-    StagedFile(std::move(dropped)).commit();
+    StagedFile staged(target_, "dropped", keep);
+    {
+        StagedFile made(target_, pieces, keep);
+        StagedFile passed(std::move(made));
+        EXPECT_EQ(bytesOf(target_), "old");
+        EXPECT_EQ(folder_.names().size(), 3U);
+        staged = std::move(passed);
+    }
+    staged.commit();
     EXPECT_EQ(bytesOf(target_), "ab" + large + std::string(pieces[3]));
     EXPECT_EQ(folder_.names(), Names{"job"});
     static_cast<void>(StagedFile(target_, "dropped", keep));
