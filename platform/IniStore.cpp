@@ -1,26 +1,16 @@
 #include "platform/IniStore.h"
 
-#include <algorithm>
-#include <cstdint>
-#include <map>
 #include <new>
-#include <stdexcept>
-#include <sys/stat.h>
 #include <utility>
-#include <vector>
 
 #include "platform/IniEdit.h"
-#include "platform/IniText.h"
-#include "platform/Posix.h"
-#include "platform/Text.h"
+#include "platform/RecentFiles.h"
 
 namespace kestedit {
 
 namespace fs = std::filesystem;
 
 namespace {
-
-using SharedText = std::shared_ptr<const IniText>;
 
 /// The section's number; nothing for a name that no file of this page can hold.
 std::optional<std::size_t> findSection(const IniText& text, std::string_view name) {
@@ -40,84 +30,6 @@ std::optional<std::string_view> findValue(const IniText& text, std::string_view 
     if (!place) return std::nullopt;
     return text.value(*place);
 }
-
-/// The files read last, each for as long as it stands unchanged on disk.
-class RecentFiles {
-  public:
-    explicit RecentFiles(CodePage page) : page_(page) {}
-
-    /// The file for reading: as it is now, or as it was when the running scope first looked at it. Throws
-    /// std::system_error.
-    SharedText get(const fs::path& file) { return get(file, true); }
-
-    /// The file for changing, as it is now whatever a scope has seen. Throws std::system_error.
-    SharedText getForChange(const fs::path& file) { return get(file, false); }
-
-    void forget(const fs::path& file) {
-        std::erase_if(files_, [&](const Entry& entry) { return entry.path == file.native(); });
-    }
-
-    void setPage(const fs::path& file, const CodePage& page) { ownPages_.insert_or_assign(file.native(), page); }
-
-    [[nodiscard]] const CodePage& pageOf(const fs::path& file) const {
-        const auto own = ownPages_.find(file.native());
-        return own == ownPages_.end() ? page_ : own->second;
-    }
-
-    void enterScope() {
-        if (depth_++ == 0) ++scope_;
-    }
-    void leaveScope() { --depth_; }
-
-  private:
-    struct Entry {
-        std::string path;
-        SharedText text;
-        std::uint64_t scope = 0;  // in which the disk was last looked at
-    };
-
-    SharedText get(const fs::path& file, bool trustScope) {
-        const auto known = std::ranges::find(files_, file.native(), &Entry::path);
-        if (known != files_.end()) {
-            if ((trustScope && isTrusted(*known)) || isCurrent(*known)) {
-                known->scope = scope_;
-                std::rotate(files_.begin(), known, known + 1);
-                return files_.front().text;
-            }
-            files_.erase(known);
-        }
-        SharedText text = std::make_shared<const IniText>(pageOf(file), FileContent::read(file));
-        files_.insert(files_.begin(), {file.native(), text, scope_});
-        forgetOldest();
-        return text;
-    }
-
-    bool isTrusted(const Entry& entry) const { return depth_ > 0 && entry.scope == scope_; }
-
-    static bool isCurrent(const Entry& entry) {
-        struct stat status {};
-        const FileContent& content = *entry.text->content();
-        return content.isSettled() && ::stat(entry.path.c_str(), &status) == 0 &&
-               content.identity() == FileIdentity(status);
-    }
-
-    void forgetOldest() {
-        constexpr std::size_t mostFiles = 16;
-        constexpr std::size_t mostBytes = std::size_t{32} << 20U;
-        std::size_t bytes = 0;
-        std::size_t kept = 0;
-        while (kept < files_.size() && kept < mostFiles && (kept == 0 || bytes < mostBytes)) {
-            bytes += files_[kept++].text->bytes().size();
-        }
-        files_.resize(kept);
-    }
-
-    CodePage page_;
-    std::map<std::string, CodePage> ownPages_;
-    std::vector<Entry> files_;  // the one used last comes first
-    std::uint64_t scope_ = 0;   // the newest scope, running or ended
-    int depth_ = 0;             // scopes that run, one inside another
-};
 
 }  // namespace
 
