@@ -14,7 +14,7 @@ QString frameAbove(const QWidget& widget) {
     return {};
 }
 
-TEST_F(WindowTest, EveryControlHasOneWidgetInItsFrame) {
+TEST_F(WindowTest, EveryControlHasOneWidgetInItsFrameAndEveryWidgetItsControl) {
     for (const int view : allViews) {
         open("New", view).makeAllPages();
         for (const EditorControl* control : form().controls()) {
@@ -23,6 +23,15 @@ TEST_F(WindowTest, EveryControlHasOneWidgetInItsFrame) {
             const QWidget& widget = window().binder().bindingOf(*control)->widget();
             EXPECT_EQ(window().findChildren<QWidget*>(widgetName(*control)).size(), 1);
             EXPECT_EQ(frameAbove(widget), control->Container ? widgetName(*control->Container) : QString());
+        }
+        for (const PageArea* area : window().findChildren<PageArea*>()) {
+            for (const QWidget* widget : area->widget()->findChildren<QWidget*>()) {
+                // A page without a title of its own goes by its node's; a field's notice goes with the field.
+                const QString owner = widget->objectName().section(QLatin1String("_notice"), 0, 0);
+                EXPECT_TRUE(owner.isEmpty() || owner.startsWith(QLatin1String("qt_")) || owner == "pageHeading" ||
+                            window().binder().bindingOf(widget) || form().find(owner.toStdString()))
+                    << owner.toStdString() << " is bound to nothing";
+            }
         }
     }
 }
