@@ -62,7 +62,7 @@ class Search {
             section_ = name.section;
         }
         place_ = bytes_.find(std::string("\n").append(name.key).append("="), place_) + name.key.size() + 2;
-        return bytes_.substr(place_, bytes_.find_first_of("\r\n", place_) - place_);
+        return bytes_.substr(place_, bytes_.find('\n', place_) - place_);
     }
 
   private:
