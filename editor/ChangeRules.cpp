@@ -26,7 +26,7 @@ void run(FormModel& form, int /*member*/) {
 }
 
 // clang-format off
-constexpr std::array rows{
+constexpr std::array changeRuleRows{
     // the name
     ChangeRule{"dxName",              run<ApplyJobName>},
     // the action
@@ -102,12 +102,12 @@ constexpr std::array rows{
 }  // namespace
 
 std::span<const ChangeRule> changeRules() {
-    return rows;
+    return changeRuleRows;
 }
 
 void RunChangeRule(FormModel& form, const EditorControl& control) {
-    const auto* const rule = std::ranges::find(rows, control.Base, &ChangeRule::control);
-    if (rule != rows.end()) rule->run(form, control.Member);
+    const auto* const rule = std::ranges::find(changeRuleRows, control.Base, &ChangeRule::control);
+    if (rule != changeRuleRows.end()) rule->run(form, control.Member);
 }
 
 }  // namespace kestedit

@@ -6,15 +6,15 @@ namespace kestedit {
 
 namespace {
 
-constexpr std::string_view section = "Findings";
+constexpr std::string_view findingsSection = "Findings";
 constexpr std::string_view placeholder = "%1";
 
-struct Text {
+struct KeyedText {
     std::string_view key;
     std::string_view german;
 };
 
-Text textOf(PathFinding finding) {
+KeyedText textOf(PathFinding finding) {
     switch (finding) {
         case PathFinding::noSource:
             return {"t9", "Es ist kein Quellverzeichnis angegeben."};
@@ -50,7 +50,7 @@ Text textOf(PathFinding finding) {
     return {};
 }
 
-Text textOf(ScheduleFinding finding) {
+KeyedText textOf(ScheduleFinding finding) {
     switch (finding) {
         case ScheduleFinding::datePassed:
             return {"t13", "Der gewählte Zeitpunkt ist schon vorbei."};
@@ -60,8 +60,8 @@ Text textOf(ScheduleFinding finding) {
     return {};
 }
 
-std::string read(const modIniHandler& texts, Text text) {
-    return texts.ReadLanguageText(section, text.key, text.german, textSize);
+std::string readFinding(const modIniHandler& texts, KeyedText text) {
+    return texts.ReadLanguageText(findingsSection, text.key, text.german, textSize);
 }
 
 // The folder that a finding about a missing answer names.
@@ -80,11 +80,11 @@ std::string filledIn(std::string message, std::string_view text) {
 }  // namespace
 
 std::string FindingText(const modIniHandler& texts, PathFinding finding, const FormModel& form) {
-    return filledIn(read(texts, textOf(finding)), silentFolder(form, finding));
+    return filledIn(readFinding(texts, textOf(finding)), silentFolder(form, finding));
 }
 
 std::string FindingText(const modIniHandler& texts, ScheduleFinding finding) {
-    return read(texts, textOf(finding));
+    return readFinding(texts, textOf(finding));
 }
 
 bool IsStorablePath(const CodePage& page, std::string_view path) {
@@ -92,8 +92,8 @@ bool IsStorablePath(const CodePage& page, std::string_view path) {
 }
 
 std::string UnstorableText(const modIniHandler& texts, std::string_view text) {
-    return filledIn(read(texts, {"t20", "Der Text enthält Zeichen, die die Auftragsdatei nicht speichern kann: %1"}),
-                    text);
+    return filledIn(
+        readFinding(texts, {"t20", "Der Text enthält Zeichen, die die Auftragsdatei nicht speichern kann: %1"}), text);
 }
 
 }  // namespace kestedit

@@ -7,15 +7,15 @@ namespace kestedit {
 
 namespace {
 
-struct Row {
+struct EditorRange {
     std::string_view editor;
     NumberRange range;
 };
 
-constexpr std::array rows{
-    Row{"dxIntMonthDay", {1, 31}},
-    Row{"dxSize", {0, 999'999'999'999'999}},
-    Row{"dxFreeSpace", {0, 999'999'999'999}},
+constexpr std::array numberRanges{
+    EditorRange{"dxIntMonthDay", {1, 31}},
+    EditorRange{"dxSize", {0, 999'999'999'999'999}},
+    EditorRange{"dxFreeSpace", {0, 999'999'999'999}},
 };
 
 constexpr NumberRange ordinary{0, 999'999'999};
@@ -23,8 +23,8 @@ constexpr NumberRange ordinary{0, 999'999'999};
 }  // namespace
 
 NumberRange numberRange(std::string_view editor) {
-    const auto* const row = std::ranges::find(rows, editor, &Row::editor);
-    return row == rows.end() ? ordinary : row->range;
+    const auto* const row = std::ranges::find(numberRanges, editor, &EditorRange::editor);
+    return row == numberRanges.end() ? ordinary : row->range;
 }
 
 }  // namespace kestedit

@@ -11,7 +11,7 @@ namespace kestedit {
 
 namespace {
 
-constexpr std::string_view section = "Window";
+constexpr std::string_view windowSection = "Window";
 
 struct Text {
     std::string_view key;
@@ -41,7 +41,7 @@ constexpr std::array meanings{
 };
 
 std::string read(const modIniHandler& texts, const Text& text) {
-    return texts.ReadLanguageText(section, text.key, text.german, textSize);
+    return texts.ReadLanguageText(windowSection, text.key, text.german, textSize);
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ namespace kestedit {
 
 namespace {
 
-constexpr std::string_view section = "dlgNewFolder";
+constexpr std::string_view dialogSection = "dlgNewFolder";
 constexpr std::string_view defaultTitle = "Neuer Ordner";
 constexpr std::size_t shortestName = 2;
 
@@ -50,11 +50,11 @@ dlgNewFolder::dlgNewFolder(FormModel& form, const modIniHandler& texts, std::str
 void dlgNewFolder::Load() {
     if (serviceOf(form_.fMode)) {
         const std::array suffixes{form_.lblSource[0].Caption, form_.lblDest[0].Caption,
-                                  texts_.ReadLanguageText(section, "t3", defaultTitle, textSize)};
-        Caption = texts_.ReadLanguageText(section, "t0", defaultTitle, textSize) + " - " +
+                                  texts_.ReadLanguageText(dialogSection, "t3", defaultTitle, textSize)};
+        Caption = texts_.ReadLanguageText(dialogSection, "t0", defaultTitle, textSize) + " - " +
                   suffixes.at(static_cast<std::size_t>(form_.fMode));
     }
-    cmdCreate.Caption = texts_.ReadLanguageText(section, "t1", "&Erstellen", textSize);
+    cmdCreate.Caption = texts_.ReadLanguageText(dialogSection, "t1", "&Erstellen", textSize);
     cmdCancel.Caption = texts_.ReadLanguageText("All", "t0", "&Abbrechen", textSize);
     cmdCreate.Enabled = false;
     int index = 0;
@@ -115,7 +115,7 @@ void dlgNewFolder::create() {
 
 void dlgNewFolder::reportExisting() {
     const std::string_view fixed = serviceOf(form_.fMode)->fixedMessage;
-    report(fixed.empty() ? texts_.ReadLanguageText(section, "t2", "Ordner existiert schon.", textSize)
+    report(fixed.empty() ? texts_.ReadLanguageText(dialogSection, "t2", "Ordner existiert schon.", textSize)
                          : std::string{fixed});
 }
 

@@ -14,7 +14,7 @@ namespace {
 // What a job's name must not contain, since it becomes a file name. The slash stands here three times.
 constexpr std::string_view invalidNameChars = "<>|/\\//:´~^¨¦`*?\"";
 
-constexpr std::string_view section = "Messages";
+constexpr std::string_view messagesSection = "Messages";
 
 // Catalogue entries of the messages.
 constexpr std::size_t validationTitle = 79;
@@ -149,7 +149,7 @@ void frmEdit::saveEdited(const std::string& name) {
 
 Answer frmEdit::askForName(Buttons buttons, std::string_view firstKey) {
     const auto text = [this](std::string_view key, std::string_view german) {
-        return ini_.ReadLanguageText(section, key, german, textSize);
+        return ini_.ReadLanguageText(messagesSection, key, german, textSize);
     };
     std::string question = joined({text(firstKey, "Das Feld 'Name des Autrages' darf nicht leer sein."),
                                    text("t4", "Der Name wird als Dateiname benutzt."),
@@ -161,7 +161,7 @@ Answer frmEdit::askForName(Buttons buttons, std::string_view firstKey) {
 
 bool frmEdit::confirmOverwrite(std::string_view question) {
     const auto text = [this](std::string_view key, std::string_view german) {
-        return ini_.ReadLanguageText(section, key, german, textSize);
+        return ini_.ReadLanguageText(messagesSection, key, german, textSize);
     };
     const Answer answer = platform_.prompts.showMessage(
         {text("t10", "Meldung"),

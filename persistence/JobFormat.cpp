@@ -11,7 +11,7 @@ using enum ValueForm;
 // Keys are an agreement with the job runners, spelling included: "NoHidenFolderScan" has one "d", "DestZipFolder"
 // belongs to chkDestKeepZStruct, and "ZipDelDeCompBin" repeats chkZipDelDeComp although chkZipDelDeCompBin exists.
 // clang-format off
-constexpr JobRow rows[] = {
+constexpr JobRow jobRows[] = {
     {"Name",                 "dxName",                 jobName},
     {"From",                 "dxSource",               path},
     {"To",                   "dxDest",                 path},
@@ -125,7 +125,7 @@ std::string twoDigits(std::string_view number) {
 }  // namespace
 
 std::span<const JobRow> jobFormat() {
-    return rows;
+    return jobRows;
 }
 
 std::string_view programVersion() {

@@ -55,7 +55,7 @@ using SaveTest = JobTest;
 
 // Authors of runners read the document, not the code.
 TEST(JobFormat, TheDocumentListsTheSameKeysInTheSameOrder) {
-    const std::string text = bytesOf(fs::path(__FILE__).parent_path() / "../../docs/job-file.md");
+    const std::string text = bytesOf(KESTEDIT_DOCS "/job-file.md");
     std::string listed;
     const std::regex row{R"(\n\| `(\w+)` \| (?:`([^`]*)`)?)"};
     for (std::sregex_iterator found{text.begin(), text.end(), row}, end; found != end; ++found)
@@ -105,8 +105,8 @@ TEST_F(LoadTest, ValuesOutsideTheirRangeStandForTheFirst) {
 
 // With Windows line ends; only the version behind the text of the filled form moves on.
 TEST_F(SaveTest, AFullJobIsWrittenByteForByteAndComesBack) {
-    const std::string expected = bytesOf(fs::path(__FILE__).parent_path() / "full.job") +
-                                 "[Info]\r\nProgVersion=" + std::string{programVersion()} + "\r\n";
+    const std::string expected =
+        bytesOf(KESTEDIT_FULL_JOB) + "[Info]\r\nProgVersion=" + std::string{programVersion()} + "\r\n";
     FilledForm form;
     form.fill();
     put("");
