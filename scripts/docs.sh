@@ -8,7 +8,7 @@ copy=$PWD/build/docs
 scripts/setup.sh build package
 rm -rf "$copy"
 mkdir -p "$copy"
-git ls-files -z --cached --others --exclude-standard | xargs -0 cp --parents -t "$copy"
+git ls-files -z --cached --others --exclude-standard | xargs -0 cp --parents --no-dereference -t "$copy"
 if ! tests/install/run_document.sh docs/extending.md "$copy" >"$copy.log" 2>&1; then
     tail -n 30 "$copy.log" >&2
     echo "docs.sh: docs/extending.md does not do what it says" >&2
