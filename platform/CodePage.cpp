@@ -4,7 +4,6 @@
 #include <array>
 #include <bit>
 #include <cerrno>
-#include <cstring>
 #include <functional>
 #include <iconv.h>
 #include <map>
@@ -12,6 +11,7 @@
 #include <mutex>
 #include <stdexcept>
 
+#include "platform/Ascii.h"
 #include "platform/Text.h"
 
 namespace kestedit {
@@ -28,50 +28,6 @@ constexpr bool isStrayByte(char32_t character) {
 
 unsigned char byteAt(std::string_view bytes, std::size_t index) {
     return static_cast<unsigned char>(bytes[index]);
-}
-
-template <class Number>
-std::uint64_t numberAt(const char* place) {
-    Number number;
-    std::memcpy(&number, place, sizeof number);
-    return number;
-}
-
-/// Calls `visit` with every byte of `text`, eight at a time. The last eight overlap the ones before, because a copy of
-/// the odd bytes would take longer than all the rest of a short name.
-template <class Visit>
-void visitWords(std::string_view text, Visit visit) {
-    const char* const end = text.data() + text.size();
-    if (text.size() >= 8) {
-        for (const char* place = text.data(); end - place > 8; place += 8)
-            visit(numberAt<std::uint64_t>(place));
-        visit(numberAt<std::uint64_t>(end - 8));
-    } else if (text.size() >= 4) {
-        visit(numberAt<std::uint32_t>(text.data()) | numberAt<std::uint32_t>(end - 4) << 32U);
-    } else if (!text.empty()) {
-        visit(byteAt(text, 0) | std::uint64_t{byteAt(text, text.size() / 2)} << 8U |
-              std::uint64_t{byteAt(text, text.size() - 1)} << 16U);
-    }
-}
-
-bool isAscii(std::string_view text) {
-    constexpr std::uint64_t highBits = 0x8080808080808080;
-    std::uint64_t bits = 0;
-    visitWords(text, [&bits](std::uint64_t word) { bits |= word; });
-    return (bits & highBits) == 0;
-}
-
-/// The same for both cases of an ASCII letter.
-std::uint32_t hashWithoutCase(std::string_view name) {
-    constexpr std::uint64_t lowerCaseBits = 0x2020202020202020;
-    constexpr std::uint64_t factor = 0x9E3779B97F4A7C15;
-    std::uint64_t hash = name.size();
-    visitWords(name, [&hash](std::uint64_t word) {
-        hash = (hash ^ (word | lowerCaseBits)) * factor;
-        hash ^= hash >> 32U;
-    });
-    // Names often differ in their last characters only, which reach none but the upper bits of the product above.
-    return static_cast<std::uint32_t>((hash * factor) >> 32U);
 }
 
 std::invalid_argument refusal(int number, const char* reason) {

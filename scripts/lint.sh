@@ -18,7 +18,9 @@ if [[ $only != format ]]; then
     cmake --preset asan-ubsan >/dev/null
     cmake --build --preset asan-ubsan --parallel "$(nproc)" --target kestedit
     # Tests follow other habits (magic values, long bodies), and the compiler's warnings hold for them anyway.
-    units() { grep -oE '"file": "[^"]*"' $build/compile_commands.json | cut -d'"' -f4 | grep -vE '/tests/|_autogen/' | grep "$@"; }
+    units() {
+        sed -nE 's/.*"file": "([^"]*)".*/\1/p' $build/compile_commands.json | grep -vE '/tests/|_autogen/' | grep "$@"
+    }
     tidy() {
         xargs -n 1 -P "$(nproc)" clang-tidy --quiet -p $build "$@" \
             2> >(grep -vE ' warnings? generated' >&2)  # what it left out, mostly of other people's headers

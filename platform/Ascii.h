@@ -1,0 +1,14 @@
+// Questions about ASCII text that are asked of every name and value, so they look at eight bytes at a time.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace kestedit {
+
+[[nodiscard]] bool isAscii(std::string_view text);
+
+/// A hash that is the same for both cases of an ASCII letter; it takes no other byte for a letter.
+[[nodiscard]] std::uint32_t hashWithoutCase(std::string_view name);
+
+}  // namespace kestedit
