@@ -114,6 +114,25 @@ TEST_F(Field, NumberMayBeEmptyAndLargeAndKeepsItsRange) {
     EXPECT_EQ(shownBy<NumberEdit>("dxIntMonthDay").text(), "30");
 }
 
+TEST_F(Field, NumbersHaveTheirUnitBesideThem) {
+    open();
+    press("optSize(1)");
+    press("optAge(1)");
+    press("optIntervall(0)");
+    for (const auto& [number, unit] : {std::pair{"dxSize", "lblSize"},
+                                       {"dxDays", "lblDays"},
+                                       {"dxMinutes", "lblMinutes"},
+                                       {"dxAge", "lblFileAgeDays"}}) {
+        turnTo(number);
+        const auto& label = shownBy<QLabel>(unit);
+        const QRect field = binding(number).widget().geometry();
+        EXPECT_TRUE(label.isVisible() && !label.text().isEmpty()) << unit;
+        EXPECT_GT(label.x(), field.right()) << unit;
+        EXPECT_LE(label.x(), field.right() + 12) << unit;
+        EXPECT_TRUE(field.intersects(label.geometry().translated(field.x() - label.x(), 0))) << "in one row: " << unit;
+    }
+}
+
 TEST_F(Field, DatesFollowTheUsersFormatAndMayBeEmpty) {
     QLocale::setDefault(QLocale("en_US"));  // whose week begins on Sunday, and whose times have no seconds
     open();
