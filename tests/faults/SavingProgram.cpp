@@ -1,7 +1,7 @@
 #include "tests/faults/SavingProgram.h"
 
-#include <algorithm>
 #include <csignal>
+#include <set>
 #include <spawn.h>
 #include <sstream>
 #include <sys/wait.h>
@@ -86,11 +86,24 @@ void SavingProgram::restore(const Files& files) const {
 }
 
 std::string faultOf(const std::string& bytes) {
-    // The first and the last section of a save, and about as many lines between them as the format has.
-    const auto lines = std::ranges::count(bytes, '\n');
-    const bool whole = bytes.starts_with("[Job]\r\nName=") && bytes.find("\r\n[Info]\r\nProgVersion=") < bytes.size() &&
-                       bytes.ends_with("\r\n") && lines >= 100 && lines == std::ranges::count(bytes, '\r');
-    return whole ? "" : "no whole job, " + std::to_string(lines) + " lines";
+    std::set<std::string> names;
+    std::string section;
+    std::istringstream lines(bytes + "|");
+    std::string line;
+    while (std::getline(lines, line) && line.ends_with('\r')) {
+        const std::size_t equals = line.find('=');
+        if (line.starts_with('[') && line.ends_with("]\r")) {
+            section = line;
+        } else if (equals == std::string::npos || equals == 0 || section.empty()) {
+            return "no line of a job: " + line;
+        } else if (!names.insert(section + line.substr(0, equals)).second) {
+            return "twice in a job: " + line;
+        }
+    }
+    // The first and the last key of a save, and about as many between them as the format has.
+    const bool whole = line == "|" && names.contains("[Job]\rName") && names.contains("[Info]\rProgVersion");
+    return whole && names.size() >= 100 ? ""
+                                        : "a job of " + std::to_string(names.size()) + " keys that ends with " + line;
 }
 
 }  // namespace kestedit::test
