@@ -12,13 +12,9 @@ namespace fs = std::filesystem;
 class DiskTest : public test::ProgramTest {
   protected:
     DiskTest() {
-        fs::create_directory(folder.path() / "jobs");
-        EXPECT_EQ(save("new", "type dxName a\n").code, 0);
-    }
-
-    [[nodiscard]] test::ProgramResult save(const std::string& target, const std::string& lines) const {
-        static_cast<void>(folder.file("home/script", lines + "click cmdSave\n"));
-        return kestedit("script --date-format dd.MM.yyyy --job-dir jobs " + target + " home/script");
+        jobDir = "jobs";
+        fs::create_directory(folder.path() / jobDir);
+        EXPECT_EQ(script("new", "type dxName a\nclick cmdSave\n").code, 0);
     }
 
     /// Root may do everything, so the program runs as nobody. False when that does not work on this machine.
@@ -33,7 +29,7 @@ class DiskTest : public test::ProgramTest {
     /// Saves the job; what `jobs` held then is expected to be in the folder `left`: the old job and nothing else.
     void expectRefused(const std::string& reason, const std::string& left) {
         const std::string old = test::bytesOf(folder.path() / "jobs/a.job");
-        const auto refused = save("edit jobs/a.job", "type dxDest /refused\n");
+        const auto refused = script("edit jobs/a.job", "type dxDest /refused\nclick cmdSave\n");
         EXPECT_EQ(refused.code, 1);
         EXPECT_NE(refused.err.find(reason), std::string::npos) << refused.err;
         EXPECT_EQ(test::bytesOf(folder.path() / left / "a.job"), old);
@@ -45,7 +41,7 @@ TEST_F(DiskTest, AReadOnlyJobBecomesWritableUnlessItsFolderIsReadOnly) {
     if (!becomeOrdinaryUser()) GTEST_SKIP() << "no other user to run the program as";
     const fs::path job = folder.path() / "jobs/a.job";
     fs::permissions(job, fs::perms{0440});
-    EXPECT_EQ(save("edit jobs/a.job", "type dxDest /new\n").code, 0);
+    EXPECT_EQ(script("edit jobs/a.job", "type dxDest /new\nclick cmdSave\n").code, 0);
     EXPECT_NE(test::bytesOf(job).find("\r\nTo=/new\r\n"), std::string::npos);
     EXPECT_EQ(fs::status(job).permissions(), fs::perms{0640});
     fs::permissions(folder.path() / "jobs", fs::perms{0555});

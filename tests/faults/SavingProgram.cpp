@@ -1,57 +1,30 @@
 #include "tests/faults/SavingProgram.h"
 
-#include <csignal>
 #include <set>
-#include <spawn.h>
 #include <sstream>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace kestedit::test {
 
 namespace fs = std::filesystem;
 
 namespace {
-
 constexpr std::string_view linkMark = "-> ";
-
-/// The exit code, or -1 for a program that was killed.
-int runShell(const std::string& command, const std::function<void()>& meanwhile) {
-    const char* const words[] = {"sh", "-c", command.c_str(), nullptr};
-    pid_t process = 0;
-    const int error = ::posix_spawn(&process, "/bin/sh", nullptr, nullptr, const_cast<char* const*>(words), ::environ);
-    if (error != 0) throw std::system_error(error, std::system_category(), "start sh");
-    int status = 0;
-    while (::waitpid(process, &status, WUNTRACED) == process && WIFSTOPPED(status)) {
-        meanwhile();
-        ::kill(process, SIGCONT);
-    }
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
-}  // namespace
-
-SavingProgram::SavingProgram() : root_(fs::canonical(folder_.path())) {
-    fs::create_directory(root_ / "home");
+SavingProgram::SavingProgram() {
+    jobDir = fs::canonical(folder.path()) / "jobs";
     fs::create_directory(jobs());
 }
 
-Outcome SavingProgram::run(const Call& call) const {
-    static_cast<void>(folder_.file("script", call.script));
-    static_cast<void>(folder_.file("log", ""));
-    std::ostringstream command;
+Outcome SavingProgram::run(const Call& call) {
+    static_cast<void>(folder.file("log", ""));
     // The sanitizers' runtime wants to come first, but what is put ahead of it here replaces none of its functions.
-    command << "cd " << root_ << " && exec env -i HOME=home LC_ALL=C LD_PRELOAD=" KESTEDIT_INJECT
-            << " ASAN_OPTIONS=verify_asan_link_order=0:detect_leaks=0 KESTEDIT_FAULTS_FOLDER=" << jobs()
-            << " KESTEDIT_FAULTS_LOG=log KESTEDIT_FAULTS='" << call.faults << "' KESTEDIT_FAULTS_CLOCK=" << call.clock
-            << " " KESTEDIT_PROGRAM " script --now 2026-11-21T14:05:00 --date-format dd.MM.yyyy --language "
-            << KESTEDIT_LANGUAGE " --job-dir " << jobs() << ' ';
-    if (call.target != "new") command << "edit " << jobs().string() << '/';
-    command << call.target << " script >out 2>errors";
-    Outcome outcome;
-    outcome.code = runShell(command.str(), call.meanwhile);
-    outcome.error = bytesOf(root_ / "errors");
-    std::istringstream lines(bytesOf(root_ / "log"));
+    environment = "LD_PRELOAD=" KESTEDIT_INJECT " ASAN_OPTIONS=verify_asan_link_order=0:detect_leaks=0" +
+                  (" KESTEDIT_FAULTS_FOLDER=" + jobDir) + " KESTEDIT_FAULTS_LOG=log KESTEDIT_FAULTS='" + call.faults +
+                  "' KESTEDIT_FAULTS_CLOCK=" + std::to_string(call.clock) +
+                  " KESTEDIT_FAULTS_MEANWHILE='LD_PRELOAD= mv foreign jobs/a.job'";
+    Outcome outcome{script(call.target == "new" ? "new" : "edit " + jobDir + "/" + call.target, call.script), {}};
+    std::istringstream lines(bytesOf(folder.path() / "log"));
     for (std::string name; lines >> name;)
         outcome.calls.push_back(name);
     return outcome;
@@ -80,7 +53,7 @@ void SavingProgram::restore(const Files& files) const {
         if (bytes.starts_with(linkMark)) {
             fs::create_symlink(bytes.substr(linkMark.size()), path);
         } else {
-            static_cast<void>(folder_.file("jobs/" + name, bytes));
+            static_cast<void>(folder.file("jobs/" + name, bytes));
         }
     }
 }

@@ -1,13 +1,11 @@
 // The real program, run in a folder of its own with faults in its way.
 #pragma once
 
-#include <filesystem>
-#include <functional>
 #include <map>
 #include <string>
 #include <vector>
 
-#include "tests/platform/TemporaryFolder.h"
+#include "tests/host/ProgramFixture.h"
 
 namespace kestedit::test {
 
@@ -16,34 +14,27 @@ using Files = std::map<std::string, std::string>;
 
 /// One run of `kestedit script`.
 struct Call {
-    std::string target;                    ///< "new", or the edited job's path in the folder of the jobs
-    std::string script;                    ///< its lines
-    std::string faults = "";               ///< "12:EIO 15:kill-after", by the number of the call
-    long clock = 0;                        ///< seconds by which the program's clock is ahead
-    std::function<void()> meanwhile = {};  ///< runs while the program is held up by a fault "stop"
+    std::string target;       ///< "new", or the edited job's path in the folder of the jobs
+    std::string script;       ///< its lines
+    std::string faults = "";  ///< "12:EIO 15:kill-after", by the number of the call
+    long clock = 0;           ///< seconds by which the program's clock is ahead
 };
 
-struct Outcome {
-    int code = -1;  ///< -1: killed
-    std::string error;
+struct Outcome : ProgramResult {
     std::vector<std::string> calls;  ///< names of the system calls that concerned the jobs, in order
 };
 
-/// A folder of jobs, and the program that works on it.
-class SavingProgram {
+/// A folder of jobs, and the program that works on it. At a fault "meanwhile" another process moves the file "foreign"
+/// of the program's folder to the place of the job "a".
+class SavingProgram : public Program {
   public:
     SavingProgram();
 
-    [[nodiscard]] std::filesystem::path jobs() const { return root_ / "jobs"; }
-    [[nodiscard]] const TemporaryFolder& folder() const { return folder_; }
-    [[nodiscard]] Outcome run(const Call& call) const;
+    [[nodiscard]] std::filesystem::path jobs() const { return jobDir; }
+    [[nodiscard]] Outcome run(const Call& call);
     [[nodiscard]] Files files() const;
     /// Makes the folder hold these files and nothing else.
     void restore(const Files& files) const;
-
-  private:
-    TemporaryFolder folder_;
-    std::filesystem::path root_;
 };
 
 /// Why the bytes are no whole job, by rules of the test's own; empty for one that is.

@@ -59,7 +59,7 @@ std::size_t takeTemporaries(Files& files) {
 /// One kind of save in the folder of one program.
 class Trial {
   public:
-    Trial(const SavingProgram& program, const Scenario& scenario);
+    Trial(SavingProgram& program, const Scenario& scenario);
 
     void fail(std::size_t number, std::string_view action);
     void failTwice(std::size_t number);
@@ -77,7 +77,7 @@ class Trial {
     void requireWhole(const std::string& faults, const Files& files) const;
     void saveAgain(const std::string& faults, const Files& now, std::size_t litter) const;
 
-    const SavingProgram& program_;
+    SavingProgram& program_;
     const Scenario& scenario_;
     std::string edited_{scenario_.edited};
     std::string target_{scenario_.target};
@@ -86,7 +86,7 @@ class Trial {
     Files moved_;  // in the middle of a rename: the old job under its new name
 };
 
-Trial::Trial(const SavingProgram& program, const Scenario& scenario) : program_(program), scenario_(scenario) {
+Trial::Trial(SavingProgram& program, const Scenario& scenario) : program_(program), scenario_(scenario) {
     createJobs();
     firstCall = program_.run(callOf("", "")).calls.size() + 1;
     Outcome clean;
@@ -99,7 +99,7 @@ Trial::Trial(const SavingProgram& program, const Scenario& scenario) : program_(
         moved_.erase(edited_);
     }
     counts["calls"] = static_cast<int>(calls.size() - firstCall + 1);
-    if (clean.code != 0) complain("no fault", "fails: " + clean.error);
+    if (clean.code != 0) complain("no fault", "fails: " + clean.err);
     if (after_ == before_) complain("no fault", "saves nothing");
     // A call by a function that the faults do not know would never fail, and so all this prove nothing.
     for (const std::string_view name : needed) {
@@ -146,7 +146,7 @@ void Trial::fail(std::size_t number, std::string_view action) {
     const std::string fault = std::to_string(number) + ':' + std::string(action);
     const Outcome outcome = tryFaults(fault);
     const bool interrupted = action == "short" || (action == "EINTR" && isOneOf(call, interruptible));
-    if (interrupted && outcome.code != 0) complain(fault, "an interruption fails the save: " + outcome.error);
+    if (interrupted && outcome.code != 0) complain(fault, "an interruption fails the save: " + outcome.err);
     const bool renameFollows = std::ranges::count(std::span(calls).subspan(number - 1), "rename") > 0;
     const bool closesNewFile = call == "close" && number > 1 && calls[number - 2] == "fsync";
     const bool losesData = closesNewFile || isOneOf(call, indispensable);
@@ -187,7 +187,7 @@ Outcome Trial::tryFaults(const std::string& faults, std::string_view second) {
     if (litter > (mayLeaveLitter ? 1U : 0U)) complain(faults, "a temporary file stays");
     if (outcome.code == 0 && now != after_) complain(faults, "says that it saved, and did not");
     if (outcome.code > 0 && now != before_ && second.empty()) complain(faults, "fails, but not as before");
-    if (outcome.code > 0 && !outcome.error.starts_with("kestedit: ")) complain(faults, "fails without a word");
+    if (outcome.code > 0 && !outcome.err.starts_with("kestedit: ")) complain(faults, "fails without a word");
     saveAgain(faults, now, litter);
     return outcome;
 }
@@ -198,7 +198,7 @@ void Trial::saveAgain(const std::string& faults, const Files& now, std::size_t l
     const Outcome outcome =
         program_.run(again ? callOf("") : Call{job, std::string("type dxDest /later\n") + saveLine});
     Files saved = program_.files();
-    if (outcome.code != 0) complain(faults, "the next save fails: " + outcome.error);
+    if (outcome.code != 0) complain(faults, "the next save fails: " + outcome.err);
     if (takeTemporaries(saved) > litter) complain(faults, "the next save leaves a temporary file");
     const std::string& bytes = bytesOf(program_.jobs() / (again ? target_ : job));
     if (bytes.find(again ? "\r\nTo=/new\r\n" : "\r\nTo=/later\r\n") == std::string::npos)
@@ -209,16 +209,15 @@ void Trial::saveAgain(const std::string& faults, const Files& now, std::size_t l
 void Trial::replace(std::size_t number) const {
     const std::string note = "[Other]\r\nNote=1\r\n";
     const std::string foreign = before_.at(target_) + note;
-    const std::string fault = std::to_string(number) + ":stop";
+    const std::string fault = std::to_string(number) + ":meanwhile";
     program_.restore(before_);
-    Call call = callOf(fault);
-    call.meanwhile = [&] { fs::rename(program_.folder().file("foreign", foreign), program_.jobs() / target_); };
-    const Outcome outcome = program_.run(call);
+    static_cast<void>(program_.folder.file("foreign", foreign));
+    const Outcome outcome = program_.run(callOf(fault));
     Files now = program_.files();
     const bool littered = takeTemporaries(now) > 0;
     const bool updated = now[target_] == after_.at(target_) + note;
     const bool whole = updated || now[target_] == after_.at(target_) || now[target_] == foreign;
-    if (outcome.code != 0) complain(fault, "fails: " + outcome.error);
+    if (outcome.code != 0) complain(fault, "fails: " + outcome.err);
     if (!whole || now.size() != before_.size() || littered) complain(fault, "the replaced job is not whole");
     if (number == firstCall && !updated) complain(fault, "the lines of the other process are lost");
 }
@@ -230,7 +229,7 @@ void report(const std::string& where, const std::string& what) {
     ++findings;
 }
 
-Counts tryEveryFault(const SavingProgram& program, const Scenario& scenario, bool full) {
+Counts tryEveryFault(SavingProgram& program, const Scenario& scenario, bool full) {
     Trial trial(program, scenario);
     for (std::size_t number = trial.firstCall; number <= trial.calls.size(); ++number) {
         for (std::size_t i = 0; i < std::size(errors); ++i) {
@@ -245,7 +244,7 @@ Counts tryEveryFault(const SavingProgram& program, const Scenario& scenario, boo
     return trial.counts;
 }
 
-int replaceMeanwhile(const SavingProgram& program, const Scenario& scenario) {
+int replaceMeanwhile(SavingProgram& program, const Scenario& scenario) {
     const Trial trial(program, scenario);
     for (std::size_t number = trial.firstCall; number <= trial.calls.size(); ++number)
         trial.replace(number);

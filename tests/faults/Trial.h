@@ -34,9 +34,9 @@ void report(const std::string& where, const std::string& what);
 
 /// Every call of the save fails, or is the last one that the program sees. `full`: with every error, and the calls that
 /// answer a failure fail in their turn.
-Counts tryEveryFault(const SavingProgram& program, const Scenario& scenario, bool full);
+Counts tryEveryFault(SavingProgram& program, const Scenario& scenario, bool full);
 
 /// Another process replaces the edited job ahead of each call of the save. Returns the number of the calls.
-int replaceMeanwhile(const SavingProgram& program, const Scenario& scenario);
+int replaceMeanwhile(SavingProgram& program, const Scenario& scenario);
 
 }  // namespace kestedit::test

@@ -40,7 +40,7 @@ void printRow(std::string_view title, Counts counts) {
     std::cout << " |" << std::endl;
 }
 
-void saveUnderFaults(const SavingProgram& program, bool full) {
+void saveUnderFaults(SavingProgram& program, bool full) {
     std::cout << "| save                   ";
     for (const std::string_view column : columns)
         std::cout << " | " << column;
@@ -55,7 +55,7 @@ void saveUnderFaults(const SavingProgram& program, bool full) {
     printRow("all", all);
 }
 
-void saveWhileReplaced(const SavingProgram& program) {
+void saveWhileReplaced(SavingProgram& program) {
     const int trusting = replaceMeanwhile(program, scenarios[0]);
     const int careful = replaceMeanwhile(program, scenarios[1]);
     if (careful <= trusting) report(std::string(scenarios[1].title), "is not read again");
@@ -63,7 +63,7 @@ void saveWhileReplaced(const SavingProgram& program) {
               << "time, and updated when it\ncame before the save.\n";
 }
 
-void saveUnderReader(const SavingProgram& program, int saves) {
+void saveUnderReader(SavingProgram& program, int saves) {
     program.restore({});
     (void)program.run({"new", std::string("type dxName a\ntype dxDest /x\n") + saveLine});
     const auto job = program.jobs() / "a.job";
@@ -103,7 +103,7 @@ int main(int argc, char** argv) {
     }
     // Each save waits for its disk, which takes most of the time and proves nothing here.
     if (::access("/dev/shm", W_OK) == 0) ::setenv("TMPDIR", "/dev/shm", 0);
-    const SavingProgram program;
+    SavingProgram program;
     saveUnderFaults(program, full);
     saveWhileReplaced(program);
     saveUnderReader(program, full ? 10000 : 300);

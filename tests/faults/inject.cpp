@@ -6,6 +6,7 @@
 //   KESTEDIT_FAULTS         "12:EIO 15:kill-after": what happens to which call; the first call is number 1
 //   KESTEDIT_FAULTS_LOG     a file that gets one line for each call, its name
 //   KESTEDIT_FAULTS_CLOCK   seconds by which the program's clock is ahead, so that a file has long been unchanged
+//   KESTEDIT_FAULTS_MEANWHILE  the shell command that is the action "meanwhile"
 #include <algorithm>
 #include <array>
 #include <atomic>
@@ -86,11 +87,12 @@ int errorOf(std::string_view action) {
     return 0;
 }
 
-/// Makes the library's call, or lets it fail, or ends or stops the process on its near or far side.
+/// Makes the library's call, or lets it fail, or ends the process on its near or far side, or lets another one go
+/// first.
 template <class Call>
 auto act(std::string_view action, Call call) -> decltype(call()) {
     if (action == "kill-before") (void)::raise(SIGKILL);
-    if (action == "stop") (void)::raise(SIGSTOP);
+    if (action == "meanwhile") (void)std::system(std::getenv("KESTEDIT_FAULTS_MEANWHILE"));
     if (const int error = errorOf(action)) {
         errno = error;
         return -1;
