@@ -37,7 +37,7 @@ std::string savedAfterLoading(const std::string& bytes) {
     frmEdit form(values, platform);
     form.Load();
 
-    IniEdit job(std::make_shared<const IniText>(CodePage{}));
+    IniEdit job(std::make_shared<const IniText>(CodePage{}, FileContent::read(values.JobFile)));
     for (const JobLine& line : SaveValues(form, dates, noon))
         job.set(line.section, line.key, line.value);
     return test::bytesOf(job);
