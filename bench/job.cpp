@@ -12,10 +12,11 @@
 #include <unistd.h>
 
 #include "bench/Folder.h"
+#include "i18n/LoadLanguage.h"
 #include "persistence/JobStore.h"
 #include "persistence/modGetValues.h"
+#include "persistence/modIniHandler.h"
 #include "persistence/modSaveValues.h"
-#include "tests/persistence/FilledForm.h"
 
 namespace {
 
@@ -23,16 +24,13 @@ namespace fs = std::filesystem;
 using namespace kestedit;
 
 const DateFormat dates{"dd.MM.yyyy"};
-const LocalTime now{dateOf(2026, 11, 21), std::chrono::hours{14}};
+const LocalTime now{Date{std::chrono::year{2026}, std::chrono::November, std::chrono::day{21}}, std::chrono::hours{14}};
 
 /// A folder with one full job.
 class JobFolder {
   public:
     JobFolder() {
-        FilledForm form;
-        form.fill();
-        IniStore ini;
-        JobStore{ini}.write(job(), SaveValues(form, dates, now), JobStore::Write::create);
+        fs::copy_file(KESTEDIT_FULL_JOB, job());
         bench::letAge();
     }
     [[nodiscard]] fs::path job() const { return folder_.path() / "full.job"; }
@@ -48,11 +46,22 @@ void loadInto(FormModel& form, const JobStore& jobs, const fs::path& file) {
     GetValues(form, *job, job->field("Comment").value_or(""), dates, now.date);
 }
 
+/// A form with the texts of a language, and with the values of a job.
+struct FilledForm : FormModel {
+    explicit FilledForm(const fs::path& job) {
+        IniStore ini;
+        ComponentValues values;
+        values.Language = KESTEDIT_LANG_DIR "/german.lng";
+        LoadLanguage(*this, modIniHandler{ini, values});
+        loadInto(*this, JobStore{ini}, job);
+    }
+};
+
 // From the disk to the controls, by a store that has never seen the file.
 void loadJob(benchmark::State& state) {
     const JobFolder folder;
     const fs::path file = folder.job();
-    FilledForm form;
+    FilledForm form(file);
     for (auto _ : state) {
         IniStore ini;
         loadInto(form, JobStore{ini}, file);
@@ -64,7 +73,7 @@ BENCHMARK(loadJob);
 void loadJobAgain(benchmark::State& state) {
     const JobFolder folder;
     const fs::path file = folder.job();
-    FilledForm form;
+    FilledForm form(file);
     IniStore ini;
     const JobStore jobs{ini};
     for (auto _ : state)
@@ -74,8 +83,7 @@ BENCHMARK(loadJobAgain);
 
 // The form's part of a save.
 void collectLines(benchmark::State& state) {
-    FilledForm form;
-    form.fill();
+    FilledForm form(KESTEDIT_FULL_JOB);
     for (auto _ : state)
         benchmark::DoNotOptimize(SaveValues(form, dates, now));
 }
@@ -85,8 +93,7 @@ BENCHMARK(collectLines);
 void saveJob(benchmark::State& state) {
     const JobFolder folder;
     const fs::path file = folder.job();
-    FilledForm form;
-    form.fill();
+    FilledForm form(file);
     IniStore ini;
     const JobStore jobs{ini};
     for (auto _ : state)
