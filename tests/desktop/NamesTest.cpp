@@ -11,7 +11,11 @@ namespace {
 
 class Names : public WindowTest, public testing::WithParamInterface<const char*> {
   protected:
-    void SetUp() override { setLanguage(GetParam()); }
+    void SetUp() override {
+        setLanguage(GetParam());
+        // All options are seen at once.
+        std::ofstream(values.INIFile) << "[EditWin]\r\nDisableInsteadOfHide=1\r\n";
+    }
 };
 
 /// The caption by which a user finds an input: its own, its label's, or that of the option it belongs to.
@@ -25,7 +29,6 @@ QString captionOf(const QWidget& input, const QWidget& page) {
 }
 
 TEST_P(Names, EveryInputHasACaptionToSeeAndANameOfItsOwnOnThePage) {
-    std::ofstream(values.INIFile) << "[EditWin]\r\nDisableInsteadOfHide=1\r\n";  // all options are seen at once
     open().makeAllPages();
     press("optAction(5)");  // gives its options their captions
     for (const PageArea* page : window().findChildren<PageArea*>()) {
@@ -43,7 +46,6 @@ TEST_P(Names, EveryInputHasACaptionToSeeAndANameOfItsOwnOnThePage) {
     }
 }
 
-// Hidden options keep their letters to themselves, so the test looks at a page as it stands, for each action.
 TEST_P(Names, MnemonicsAreUniqueAmongWhatIsSeen) {
     for (const int view : {4, 23}) {  // which share the pages' controls out in two ways
         open("New", view);

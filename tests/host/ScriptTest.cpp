@@ -1,6 +1,9 @@
+// The script language: its words, its events, what it prints and how it fails.
 #include <regex>
 #include <tuple>
 
+#include "host/ScriptParser.h"
+#include "host/ScriptText.h"
 #include "tests/host/ProgramFixture.h"
 
 namespace kestedit {
@@ -9,6 +12,28 @@ namespace {
 
 using namespace std::string_literals;
 using ScriptTest = test::ProgramTest;
+using Words = std::vector<std::string>;
+
+TEST(ScriptParser, SplitsLinesIntoWords) {
+    const auto lines = parseScript(
+        "\xEF\xBB\xBF# a byte order mark and a comment\r\n"
+        "\ttype  dxName \"a b\" # more\r\n"
+        "\n"
+        "folder C:\\new#1\t\"\"");
+    ASSERT_EQ(lines.size(), 2U);
+    EXPECT_EQ(lines[0].words, (Words{"type", "dxName", "a b"}));
+    EXPECT_EQ(lines[1].words, (Words{"folder", "C:\\new#1", ""}));
+    EXPECT_EQ(lines[1].number, 4);
+}
+
+TEST(ScriptParser, ReadsBackWhatIsPrinted) {
+    for (const std::string& text : {""s, "a \"b\" \\n"s, "1\r\n2\t3"s, "# Größe 字 \x01"s, "\0nul"s, "\\"s}) {
+        const auto lines = parseScript("type dxName " + quotedText(text));
+        ASSERT_EQ(lines.size(), 1U);
+        EXPECT_EQ(lines[0].words, (Words{"type", "dxName", text})) << quotedText(text);
+    }
+    EXPECT_EQ(quotedText("caf\xE9"), "\"caf\xEF\xBF\xBD\"");  // what is printed is UTF-8, whatever a path holds
+}
 
 TEST_F(ScriptTest, TheDocumentedExamplePrintsWhatItSays) {
     const std::string document = test::bytesOf(KESTEDIT_DOCS "/script.md");
@@ -64,6 +89,20 @@ frmEdit.FocusedControl = "dxName"
 
 TEST_F(ScriptTest, EndsAtTheFirstLineThatFails) {
     const std::pair<const char*, const char*> cases[] = {
+        {"timer\ntype dxName \"a\n", "4: a closing quote is missing"},
+        {"type dxName \"a\\", "3: a closing quote is missing"},
+        {"type dxName \"a\\x\"", "3: a backslash in quotes takes \", \\, r, n or t behind it"},
+        {"type dxName \"a\"b", "3: a blank is missing behind a closing quote"},
+        {"type dxName a\"b", "3: a quote inside a word: put the whole word in quotes and write \\\""},
+        {"# \xE4", "3: the line is not UTF-8"},
+        {"type dxName a b", "3: write type CONTROL TEXT"},
+        {"check chkPreview 3", "3: check: \"3\" is not 0, 1 or 2"},
+        {"choose optAction -1", "3: choose: \"-1\" is not an index from 0"},
+        {"number dxDays 9223372036854775808", "3: number: \"9223372036854775808\" is not a whole number"},
+        {"answer maybe", "3: answer: \"maybe\" is not ok, yes, no, cancel, retry or continue"},
+        {"print .State", "3: print: \".State\" is not a name, a dot and a property"},
+        {"set-date dxDate 2026-2-9", "3: set-date: \"2026-2-9\" is not a date such as 2026-11-21"},
+        {"set-time dxDateTime 14:05", "3: set-time: \"14:05\" is not a time of day such as 14:05:00"},
         {"bogus", "3: unknown event \"bogus\""},
         {"type dxFoo x", "3: no control named dxFoo"},
         {"choose optAction 6", "3: no control named optAction(6)"},
