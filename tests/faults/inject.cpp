@@ -1,11 +1,11 @@
 // Stands between the program and the C library (LD_PRELOAD): counts the calls that concern one folder and makes chosen
-// ones fail. It holds the functions by which the program reaches its jobs; the kernel is asked whether any other was
-// used (Trial.cpp). The environment says all of this:
+// ones fail. It holds the functions by which the program reaches its jobs (Trial.cpp misses one that it does not). The
+// environment says all of this:
 //
-//   KESTEDIT_FAULTS_FOLDER  the folder, absolute and without links
-//   KESTEDIT_FAULTS         "12:EIO 15:kill-after": what happens to which call; the first call is number 1
-//   KESTEDIT_FAULTS_LOG     a file that gets one line for each call, its name
-//   KESTEDIT_FAULTS_CLOCK   seconds by which the program's clock is ahead, so that a file has long been unchanged
+//   KESTEDIT_FAULTS_FOLDER     the folder, absolute and without links
+//   KESTEDIT_FAULTS            "12:EIO 15:kill-after": what happens to which call; the first call is number 1
+//   KESTEDIT_FAULTS_LOG        a file that gets one line for each call, its name
+//   KESTEDIT_FAULTS_CLOCK      seconds by which the program's clock is ahead, so that a file has long been unchanged
 //   KESTEDIT_FAULTS_MEANWHILE  the shell command that is the action "meanwhile"
 #include <algorithm>
 #include <array>
