@@ -43,7 +43,7 @@ class KESTEDIT_EXPORT FileSystem {
 };
 
 /// The machine's own file system.
-class KESTEDIT_EXPORT LocalFileSystem final : public FileSystem {
+class KESTEDIT_EXPORT LocalFileSystem : public FileSystem {
   public:
     [[nodiscard]] bool FileExists(const std::filesystem::path& file) const override;
     [[nodiscard]] bool FolderExists(const std::filesystem::path& folder) const override;

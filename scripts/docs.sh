@@ -1,18 +1,50 @@
 #!/usr/bin/env bash
-# Follows docs/extending.md in a copy of the project: makes its changes, runs its commands. (The embedding guide is
-# followed by the install test, the samples of the README by the tests of the program.)
+# Holds the documents against the program: what its help lists is explained, the example of docs/script.md prints what it
+# says, and docs/extending.md, followed in a copy of the project, works. (The embedding guide is followed by the install
+# test, the samples of the README by the tests of the program.)
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-copy=$PWD/build/docs
+fail() {
+    echo "docs.sh: $*" >&2
+    exit 1
+}
+
 scripts/setup.sh build package
+cmake --preset dev >/dev/null
+cmake --build --preset dev --parallel "$(nproc)" --target kestedit >/dev/null
+kestedit=$PWD/build/dev/host/kestedit
+
+# The program's options, and the events of a script as the table of the document has them.
+# shellcheck disable=SC2016  # the backquotes are the table's
+listed() {
+    { "$kestedit" script --help && "$kestedit" ini get --help; } | grep -oE -- '--[a-z-]+'
+    "$kestedit" script --help | sed -n '/A script has/,$p' | sed -nE 's/^  ([a-z][^ ]*( [^ ]+)*)  .*/| `\1` |/p'
+}
+[[ $(listed | grep -c '^|') -gt 20 ]] || fail "the help lists no events"
+sed 's/\\\([-|]\)/\1/g' docs/kestedit.1 docs/script.md >build/documented
+while read -r word; do
+    grep -qF -- "$word" build/documented || fail "neither docs/kestedit.1 nor docs/script.md has $word"
+done < <(listed)
+echo "docs.sh: docs/kestedit.1 and docs/script.md have all that the help lists"
+
+# The first two indented blocks behind the synopsis: a script, and what it prints.
+example() {
+    awk -v wanted="$1" '/^    / { block += !inside++; if (block == wanted) print substr($0, 5); next } { inside = 0 }' docs/script.md
+}
+folder=$(mktemp -d)
+printed=$(example 2 | "$kestedit" script --job-dir "$folder" new) || fail "the example of docs/script.md fails"
+rm -rf "$folder"
+[[ $printed == "$(example 3)" ]] || fail "the example of docs/script.md prints"$'\n'"$printed"
+echo "docs.sh: the example of docs/script.md prints what it says"
+
+copy=$PWD/build/docs
 rm -rf "$copy"
 mkdir -p "$copy"
 git ls-files -z --cached --others --exclude-standard | xargs -0 cp --parents --no-dereference -t "$copy"
 if ! tests/install/run_document.sh docs/extending.md "$copy" >"$copy.log" 2>&1; then
     tail -n 30 "$copy.log" >&2
-    echo "docs.sh: docs/extending.md does not do what it says" >&2
-    exit 1
+    fail "docs/extending.md does not do what it says"
 fi
 rm -rf "$copy"
 echo "docs.sh: docs/extending.md does what it says"

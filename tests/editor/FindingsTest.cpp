@@ -15,28 +15,20 @@ using std::chrono::milliseconds;
 using Finding = std::optional<PathFinding>;
 
 /// The machine's own folders, some with rights which a test cannot give to a real one, and none at once.
-struct OddFolders : FileSystem {
+struct OddFolders : LocalFileSystem {
     std::map<fs::path, FolderStatus> odd;
     mutable std::vector<milliseconds> granted;
-    LocalFileSystem local;
 
     FolderStatus inspectFolder(const fs::path& folder, milliseconds patience) const override {
         granted.push_back(patience);
         std::this_thread::sleep_for(1ms);
         const auto found = odd.find(folder);
-        return found == odd.end() ? local.inspectFolder(folder, patience) : found->second;
+        return found == odd.end() ? LocalFileSystem::inspectFolder(folder, patience) : found->second;
     }
     fs::path resolve(const fs::path& path, milliseconds patience) const override {
         granted.push_back(patience);
-        return local.resolve(path, patience);
+        return LocalFileSystem::resolve(path, patience);
     }
-    // What no check of paths asks.
-    bool FileExists(const fs::path& /*file*/) const override { return false; }
-    bool FolderExists(const fs::path& /*folder*/) const override { return false; }
-    void DeleteFile(const fs::path& /*file*/) const override {}
-    void CreateFolder(const fs::path& /*folder*/) const override {}
-    std::string BuildPath(std::string_view /*folder*/, std::string_view /*name*/) const override { return {}; }
-    std::string GetFileName(std::string_view /*path*/) const override { return {}; }
 };
 
 struct PathRules : test::EditorTest {
@@ -69,6 +61,7 @@ TEST_F(PathRules, SourceAndDestinationAreThereAndUsableAndApart) {
         {"data", "", PathFinding::noDestination},
         {"data", "data/gone", PathFinding::destinationMissing},
         {"data/in", "link", PathFinding::sameFolder},
+        {"link/../in/.", "data//in/", PathFinding::sameFolder},
         {"data/", "link", PathFinding::destinationInSource},
         {"link/deep", "data", PathFinding::sourceInDestination},
         {"/", "data", PathFinding::destinationInSource},

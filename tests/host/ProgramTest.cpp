@@ -1,4 +1,3 @@
-#include <regex>
 #include <tuple>
 
 #include "tests/host/ProgramFixture.h"
@@ -56,25 +55,6 @@ TEST_F(ProgramTest, DefaultsAreTheUsersOwnFoldersAndLanguage) {
     static_cast<void>(folder.file("a.script", "type dxName Night\nprint cmdCancel.Caption\nclick cmdSave\n"));
     EXPECT_EQ(kestedit("script new <a.script").out, "cmdCancel.Caption = \"&Cancel\"\nevent SearchJobs\n");
     EXPECT_TRUE(std::filesystem::exists(home() / ".local/share/kestedit/Night.job"));
-}
-
-/// What the pattern's group finds in the text, each time.
-std::vector<std::string> allIn(const std::string& text, const std::regex& pattern) {
-    return {std::sregex_token_iterator(text.begin(), text.end(), pattern, 1), std::sregex_token_iterator{}};
-}
-
-TEST_F(ProgramTest, EveryOptionAndEventIsDocumented) {
-    const std::string documents =
-        std::regex_replace(test::bytesOf(KESTEDIT_DOCS "/kestedit.1") + test::bytesOf(KESTEDIT_DOCS "/script.md"),
-                           std::regex(R"(\\([-|]))"), "$1");
-    const std::string help = kestedit("script --help").out;
-    auto words = allIn(help + kestedit("ini get --help").out, std::regex("(--[a-z-]+)"));
-    for (const std::string& event :
-         allIn(help.substr(help.find("A script has")), std::regex("\n  ([a-z][^ ]*(?: [^ ]+)*)  ")))
-        words.push_back("| `" + event + "` |");
-    EXPECT_GT(words.size(), 32U);
-    for (const std::string& word : words)
-        EXPECT_NE(documents.find(word), std::string::npos) << word;
 }
 
 }  // namespace

@@ -35,18 +35,6 @@ TEST(ScriptParser, ReadsBackWhatIsPrinted) {
     EXPECT_EQ(quotedText("caf\xE9"), "\"caf\xEF\xBF\xBD\"");  // what is printed is UTF-8, whatever a path holds
 }
 
-TEST_F(ScriptTest, TheDocumentedExamplePrintsWhatItSays) {
-    const std::string document = test::bytesOf(KESTEDIT_DOCS "/script.md");
-    std::smatch example;
-    ASSERT_TRUE(
-        std::regex_search(document, example, std::regex("\n\n((?:    (?!kestedit).*\n)+)\nprints\n\n((?:    .*\n)+)")));
-    const auto withoutMargin = [](const std::string& text) {
-        return std::regex_replace(text, std::regex("    (.+\n)"), "$1");
-    };
-    const auto result = script("new", withoutMargin(example[1]));
-    EXPECT_EQ(result.out, withoutMargin(example[2])) << result.err;
-}
-
 TEST_F(ScriptTest, SamplesMakeTheirJobs) {
     const std::tuple<const char*, const char*, const char*, const char*> samples[] = {
         {"new", "create", "Notes", "Interval=150"},
@@ -67,7 +55,7 @@ TEST_F(ScriptTest, SamplesMakeTheirJobs) {
 
 TEST_F(ScriptTest, PrintsEveryFormOfValueAndEveryList) {
     const std::string printed = R"(dxComment.EditValue = "a\r\n\"b\""
-dxDate.EditValue = 2026-11-21
+dxFileDate.EditValue = 2028-02-29
 dxDateTime.EditValue = 14:05:00
 dxHours.EditValue = 1
 dxSize.EditValue = Empty
@@ -78,8 +66,8 @@ frmEdit.PageNodeIndex(99) = Empty
 frmEdit.FocusedControl = "dxName"
 )";
     const std::string lines = std::regex_replace(printed, std::regex("(.+) = .+\n"), "print $1\n");
-    const std::string comment = "type dxComment \"a\\n\\\"b\\\"\"\n";
-    EXPECT_EQ(script("new", comment + lines + "frames\n").out, printed + "fraComment\nevent none\n");
+    const std::string events = "type dxComment \"a\\n\\\"b\\\"\"\nchoose optAge 4\nset-date dxFileDate 2028-02-29\n";
+    EXPECT_EQ(script("new", events + lines + "frames\n").out, printed + "fraComment\nevent none\n");
 
     const std::string lists = script("--view 9 new", "key down\nnodes\ntabs\ndump\n").out;
     EXPECT_TRUE(lists.starts_with("node 0 \"Job name and notes\" \"\"\nnode 1 \"Mode\" \"2\" *\nnode 2 \"Source"));

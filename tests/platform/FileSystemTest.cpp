@@ -64,15 +64,6 @@ TEST(Patience, anAnswerThatDoesNotComeCostsNoMoreThanThePatience) {
     EXPECT_EQ(answerWithin(10s, [] { return 3; }), 3);
 }
 
-TEST_F(Files, twoSpellingsOfOneFolderResolveToOnePath) {
-    fs::create_directory(folder_.path() / "real");
-    fs::create_symlink("real", folder_.path() / "link");
-    const fs::path real = fs::canonical(folder_.path()) / "real";
-    EXPECT_EQ(files_.resolve(folder_.path() / "link" / ".." / "real" / "", 10s), real);
-    EXPECT_EQ(files_.resolve(folder_.path() / "link" / "new" / "." / "x", 10s), real / "new" / "x");
-    EXPECT_EQ(files_.resolve("/", 10s), "/");
-}
-
 TEST_F(Files, userSettingsCreateFolderAndFile) {
     UserSettingsFile settings(folder_.path() / "a" / "b" / "user.ini");
     EXPECT_EQ(settings.read("Options", "BGColor", "none"), "none");
