@@ -7,10 +7,6 @@ namespace kestedit::test {
 
 namespace fs = std::filesystem;
 
-namespace {
-constexpr std::string_view linkMark = "-> ";
-}
-
 SavingProgram::SavingProgram() {
     jobDir = fs::canonical(folder.path()) / "jobs";
     fs::create_directory(jobs());
@@ -34,28 +30,22 @@ Files SavingProgram::files() const {
     Files files;
     for (const auto& entry : fs::recursive_directory_iterator(jobs())) {
         const std::string name = entry.path().lexically_relative(jobs());
-        if (entry.is_symlink()) {
-            files[name] = std::string(linkMark) + fs::read_symlink(entry).string();
-        } else if (!entry.is_directory()) {
+        if (entry.is_symlink())
+            files[name] = "-> " + fs::read_symlink(entry).string();
+        else if (!entry.is_directory())
             files[name] = bytesOf(entry.path());
-        }
     }
     return files;
 }
 
-void SavingProgram::restore(const Files& files) const {
-    if (this->files() == files) return;
+void SavingProgram::keep() const {
+    fs::remove_all(folder.path() / "kept");
+    fs::copy(jobs(), folder.path() / "kept", fs::copy_options::recursive | fs::copy_options::copy_symlinks);
+}
+
+void SavingProgram::restore() const {
     fs::remove_all(jobs());
-    fs::create_directory(jobs());
-    for (const auto& [name, bytes] : files) {
-        const fs::path path = jobs() / name;
-        fs::create_directories(path.parent_path());
-        if (bytes.starts_with(linkMark)) {
-            fs::create_symlink(bytes.substr(linkMark.size()), path);
-        } else {
-            static_cast<void>(folder.file("jobs/" + name, bytes));
-        }
-    }
+    fs::copy(folder.path() / "kept", jobs(), fs::copy_options::recursive | fs::copy_options::copy_symlinks);
 }
 
 std::string faultOf(const std::string& bytes) {

@@ -33,8 +33,10 @@ class SavingProgram : public Program {
     [[nodiscard]] std::filesystem::path jobs() const { return jobDir; }
     [[nodiscard]] Outcome run(const Call& call);
     [[nodiscard]] Files files() const;
-    /// Makes the folder hold these files and nothing else.
-    void restore(const Files& files) const;
+    /// Remembers what the folder holds.
+    void keep() const;
+    /// Makes the folder hold that and nothing else.
+    void restore() const;
 };
 
 /// Why the bytes are no whole job, by rules of the test's own; empty for one that is.

@@ -81,18 +81,18 @@ Trial::Trial(SavingProgram& program, const Scenario& scenario) : program_(progra
 }
 
 void Trial::createJobs() {
-    program_.restore({});
+    fs::remove_all(program_.jobs());
+    fs::create_directories(program_.jobs() / "elsewhere");
     for (const std::string name : {"a", "b"}) {
         const std::string lines = "type dxName " + name + "\ntype dxSource /from/" + name + "\ntype dxDest /old\n";
-        (void)program_.run({"new", lines + "answer ok\n" + saveLine});
+        (void)program_.run({"new", lines + saveLine});
     }
-    before_ = program_.files();
     if (edited_ == "link.job") {
-        before_["elsewhere/a.job"] = before_["a.job"];
-        before_.erase("a.job");
-        before_["link.job"] = "-> elsewhere/a.job";
-        program_.restore(before_);
+        fs::rename(program_.jobs() / "a.job", program_.jobs() / "elsewhere/a.job");
+        fs::create_symlink("elsewhere/a.job", program_.jobs() / edited_);
     }
+    program_.keep();
+    before_ = program_.files();
 }
 
 Call Trial::callOf(const std::string& faults, const char* end) const {
@@ -125,7 +125,7 @@ void Trial::fail(std::size_t number, std::string_view action) {
 /// The calls that answer the first fault fail as well.
 void Trial::failTwice(std::size_t number) {
     const std::string first = std::to_string(number) + ":EIO";
-    program_.restore(before_);
+    program_.restore();
     const Outcome outcome = program_.run(callOf(first));
     for (std::size_t second = number + 1; second <= outcome.calls.size(); ++second) {
         const std::string at = first + ' ' + std::to_string(second) + ':';
@@ -136,7 +136,7 @@ void Trial::failTwice(std::size_t number) {
 
 /// `second` is the call that fails behind the first, if one does.
 Outcome Trial::tryFaults(const std::string& faults, std::string_view second) {
-    program_.restore(before_);
+    program_.restore();
     Outcome outcome = program_.run(callOf(faults));
     Files now = program_.files();
     const std::size_t litter = takeTemporaries(now);
@@ -179,7 +179,7 @@ void Trial::replace(std::size_t number) const {
     const std::string note = "[Other]\r\nNote=1\r\n";
     const std::string foreign = before_.at(target_) + note;
     const std::string fault = std::to_string(number) + ":meanwhile";
-    program_.restore(before_);
+    program_.restore();
     static_cast<void>(program_.folder.file("foreign", foreign));
     const Outcome outcome = program_.run(callOf(fault));
     Files now = program_.files();

@@ -64,8 +64,7 @@ void saveWhileReplaced(SavingProgram& program) {
 }
 
 void saveUnderReader(SavingProgram& program, int saves) {
-    program.restore({});
-    (void)program.run({"new", std::string("type dxName a\ntype dxDest /x\n") + saveLine});
+    program.restore();
     const auto job = program.jobs() / "a.job";
     const Call calls[] = {{"a.job", std::string("type dxDest /even\n") + saveLine},
                           {"a.job", std::string("type dxDest /a/much/longer/odd/path\n") + saveLine}};
