@@ -85,7 +85,7 @@ TEST_F(Field, WheelPassesOverFieldsWithoutTheFocus) {
         list().setFocus();
         turnWheel(focusOf(name));
         EXPECT_GT(bar.value(), 0) << name;
-        EXPECT_EQ(differences(before, dumpOf(form())), "") << name;
+        EXPECT_EQ(dumpOf(form()), before) << name;
         EXPECT_FALSE(focusOf(name).hasFocus()) << name;
     }
     QTest::keyClick(&focus("dxIntWeekDay"), Qt::Key_End);

@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 #include <memory>
 #include <set>
-#include <sstream>
 
 #include "editor/dlgNewFolder.h"
 #include "editor/frmEdit.h"
@@ -27,32 +26,27 @@ class ScriptedPrompts final : public Prompts {
     std::deque<std::string> choices;  ///< of both choosers; with none left they are cancelled
     std::function<void(dlgNewFolder&)> newFolder;
     std::vector<MessageBox> messages;
-    std::vector<FolderRequest> folders;
-    std::vector<FileRequest> programs;
+    std::string lastChooser;  ///< its title, or what it lets choose
 
     Answer showMessage(const MessageBox& box) override {
         messages.push_back(box);
         if (answers.empty()) throw std::logic_error("nobody answers: " + box.text);
-        const Answer answer = answers.front();
-        answers.pop_front();
-        return answer;
+        return next(answers);
     }
-    std::optional<std::string> chooseFolder(const FolderRequest& request) override {
-        folders.push_back(request);
-        return choice();
-    }
-    std::optional<std::string> chooseFile(const FileRequest& request) override {
-        programs.push_back(request);
-        return choice();
-    }
+    std::optional<std::string> chooseFolder(const FolderRequest& request) override { return choose(request.title); }
+    std::optional<std::string> chooseFile(const FileRequest& request) override { return choose(request.filter); }
     void runNewFolder(dlgNewFolder& dialog) override { newFolder(dialog); }
 
   private:
-    std::optional<std::string> choice() {
-        if (choices.empty()) return std::nullopt;
-        std::string chosen = choices.front();
-        choices.pop_front();
-        return chosen;
+    template <typename Value>
+    static Value next(std::deque<Value>& queue) {
+        Value value = std::move(queue.front());
+        queue.pop_front();
+        return value;
+    }
+    std::optional<std::string> choose(const std::string& from) {
+        lastChooser = from;
+        return choices.empty() ? std::nullopt : std::optional(next(choices));
     }
 };
 
@@ -71,16 +65,7 @@ struct Surroundings {
     }
     void putJob(std::string_view name, std::string_view bytes) const { std::ofstream(jobFile(name)) << bytes; }
     [[nodiscard]] std::string jobBytes(std::string_view name) const { return bytesOf(jobFile(name)); }
-    /// The names in the job folder, each with a blank behind it.
-    [[nodiscard]] std::string jobNames() const {
-        std::set<std::string> names;
-        for (const auto& entry : std::filesystem::directory_iterator(jobs))
-            names.insert(entry.path().filename());
-        std::string list;
-        for (const std::string& name : names)
-            list += name + " ";
-        return list;
-    }
+    [[nodiscard]] std::string jobNames() const { return namesIn(jobs); }
 
     TemporaryFolder folder;
     std::filesystem::path jobs = folder.path() / "jobs";
@@ -122,16 +107,6 @@ inline std::string dumpOf(const FormModel& form) {
         dump += node.Title + " " + node.Image + "\n";
     return dump + form.Caption + " " + std::to_string(form.SelectedAction) + " " +
            std::to_string(form.CompressionLevel) + " " + std::to_string(form.ActionPicture);
-}
-
-/// The lines that differ, of both dumps; empty when they are the same. Easier to read than two whole dumps.
-inline std::string differences(const std::string& before, const std::string& after) {
-    std::istringstream left(before);
-    std::istringstream right(after);
-    std::string found;
-    for (std::string was, is; std::getline(left, was) && std::getline(right, is);)
-        if (was != is) found.append("- ").append(was).append("\n+ ").append(is).append("\n");
-    return found.empty() && before.size() != after.size() ? "more lines" : found;
 }
 
 /// Opens the editor and does what a user does. Names are those of the form: "optExist(2)".
@@ -191,7 +166,7 @@ class EditorTest : public testing::Test, public Surroundings {
     void expectRefused(const std::function<void()>& event) {
         const std::string before = dumpOf(form());
         EXPECT_THROW(event(), EventRefused);
-        EXPECT_EQ(differences(before, dumpOf(form())), "");
+        EXPECT_EQ(dumpOf(form()), before);
     }
 
   private:

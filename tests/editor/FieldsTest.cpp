@@ -135,7 +135,7 @@ TEST_F(Choosers, PathGoesIntoItsField) {
         button(field, 0);
         EXPECT_EQ(at(field).text() + at(field).ToolTipText, "/chosen/chosen");
     }
-    EXPECT_EQ(prompts.folders.back().title, "Verzeichnis für Überwachung auswählen:");
+    EXPECT_EQ(prompts.lastChooser, "Verzeichnis für Überwachung auswählen:");
     prompts.choices = {"/日本"};
     expectRefused([this] { button("dxSource", 0); });
     check("chkExecDo");
@@ -144,7 +144,7 @@ TEST_F(Choosers, PathGoesIntoItsField) {
     EXPECT_EQ(form().dxExecPath.text(), "") << "it has one button";
     button("dxExecPath", 0);
     EXPECT_EQ(form().dxExecPath.text(), "/usr/bin/true");
-    EXPECT_EQ(prompts.programs.back().filter, "Programme (*.exe, *.com, *.bat)|*.exe;*.com;*.bat");
+    EXPECT_EQ(prompts.lastChooser, "Programme (*.exe, *.com, *.bat)|*.exe;*.com;*.bat");
 }
 
 TEST_F(NewFolder, ExistingFolderIsReportedByField) {

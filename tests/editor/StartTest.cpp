@@ -13,23 +13,21 @@ namespace {
 using Start = test::EditorTest;
 
 TEST_F(Start, WindowSettings) {
-    using Settings = std::tuple<bool, bool, bool, bool, std::int64_t, std::int64_t>;
-    const std::pair<std::string_view, Settings> rows[] = {
+    const std::pair<std::string_view, std::string> rows[] = {
         {"[EditWin]\nShowIcons=0\nchkEditPaths=FALSE\nDisableInsteadOfHide=1\n[Global]\nRowBgCol=255\n"
          "RowTxtCol=16777215\n",
-         {false, false, true, true, 255, 16777215}},
+         "(false, false, true, true, 255, 16777215)"},
         {"[EditWin]\nShowIcons=0 aus\nchkEditPaths=\nDisableInsteadOfHide=0x\n[Global]\nRowBgCol=12abc\n"
          "RowTxtCol=16777216\n",
-         {true, true, false, false, 14737632, 0}},
+         "(true, true, false, false, 14737632, 0)"},
     };
     for (const auto& [file, expected] : rows) {
         folder.file("program.ini", file);
         create();
         const auto& [nodes, focused, icons, back, front] = form().Navigation;
-        EXPECT_EQ((Settings{icons, form().chkEditPaths.isSet(), form().dxSource.ReadOnly, form().DisableInsteadOfHide,
-                            back, front}),
-                  expected)
-            << file;
+        const std::tuple found{
+            icons, form().chkEditPaths.isSet(), form().dxSource.ReadOnly, form().DisableInsteadOfHide, back, front};
+        EXPECT_EQ(testing::PrintToString(found), expected) << file;
     }
 }
 

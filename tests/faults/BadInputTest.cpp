@@ -35,20 +35,6 @@ TEST_F(BadInputTest, ZerosAreAJobWithoutKeysThatOnlyAnAnswerReplaces) {
     EXPECT_TRUE(test::bytesOf(file).starts_with("[Job]\r\nName=zeros\r\n"));
 }
 
-TEST_F(BadInputTest, AbsurdNumbersOfAJobAreNotTakenOver) {
-    for (const std::string number : {"-1", "9223372036854775807", "-9223372036854775808", "99999999999999999999999"}) {
-        std::string job = "[Job]\r\nName=a\r\n";
-        for (const std::string key : {"SubFolder", "AttrSetSource", "Action", "PickRenamer", "ZipGrade", "FileAgeDiff",
-                                      "EFSelect", "MonDelay", "Interval", "IntWeekDay", "IntMonthDay", "IntervalDate"})
-            job += key + '=' + number + "\r\n";
-        static_cast<void>(folder.file("a.job", job));
-        const auto saved = script("edit a.job", "answer ok\nspin dxHours up\nspin dxMinutes down\nclick cmdSave\n");
-        EXPECT_EQ(saved.code, 0) << number << ": " << saved.err;
-        for (const std::string key : {"SubFolder", "Action", "AttrSetSource"})
-            EXPECT_EQ(kestedit("ini get a.job Job " + key).out, "0\n") << key << '=' << number;
-    }
-}
-
 TEST_F(BadInputTest, NoLanguageFileKeepsTheEditorFromWorking) {
     environment = "timeout 20";  // what waits for a pipe waits for ever
     ASSERT_EQ(::mkfifo((folder.path() / "pipe").c_str(), 0600), 0);
@@ -68,7 +54,7 @@ TEST_F(BadInputTest, NoNameLeadsElsewhere) {
     EXPECT_EQ(save(std::string(300, 'n')), 1);
     for (const std::string name : {"..", ".", "a\\r\\n[Info]"})
         EXPECT_EQ(save(name), 0) << name;
-    EXPECT_EQ(folder.names(), (std::vector<std::string>{"...job", "..job", "a [Info].job", "home"}));
+    EXPECT_EQ(folder.names(), "...job ..job a [Info].job home ");
 }
 
 TEST_F(BadInputTest, WhatAJobCannotHoldIsRefused) {

@@ -61,10 +61,6 @@ bool concerns(std::string_view path) {
     return path.starts_with(folder) && (path.size() == folder.size() || path[folder.size()] == '/');
 }
 
-bool concerns(const char* path) {
-    return path != nullptr && concerns(std::string_view(path));
-}
-
 bool concerns(int file) {
     std::array<char, 4096> path{};
     const std::string link = "/proc/self/fd/" + std::to_string(file);
@@ -149,11 +145,6 @@ ssize_t write(int file, const void* bytes, size_t size) {
                     [&](std::size_t part) { return library(::write, "write")(file, bytes, part); });
 }
 
-int rename(const char* from, const char* to) noexcept {
-    const auto call = [&] { return library(::rename, "rename")(from, to); };
-    return concerns(from) || concerns(to) ? act(nextAction("rename"), call) : call();
-}
-
 // clang-format off
 int fsync(int file) { return relay(::fsync, "fsync", file); }
 int fchmod(int file, mode_t mode) noexcept { return relay(::fchmod, "fchmod", file, mode); }
@@ -161,6 +152,7 @@ int fchown(int file, uid_t user, gid_t group) noexcept { return relay(::fchown, 
 int fstat(int file, struct stat* status) noexcept { return relay(::fstat, "fstat", file, status); }
 int stat(const char* path, struct stat* status) noexcept { return relay(::stat, "stat", path, status); }
 int lstat(const char* path, struct stat* status) noexcept { return relay(::lstat, "lstat", path, status); }
+int rename(const char* from, const char* to) noexcept { return relay(::rename, "rename", from, to); }
 int unlink(const char* path) noexcept { return relay(::unlink, "unlink", path); }
 ssize_t readlink(const char* path, char* text, size_t size) noexcept {
     return relay(::readlink, "readlink", path, text, size);

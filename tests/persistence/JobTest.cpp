@@ -76,6 +76,20 @@ TEST_F(LoadTest, ValuesOutsideTheirRangeStandForTheFirst) {
     EXPECT_EQ(form().dxDateTime.EditValue, Value{"noon"});
 }
 
+TEST_F(LoadTest, AbsurdNumbersAreNotTakenOver) {
+    for (const std::string number : {"-1", "9223372036854775807", "-9223372036854775808", "99999999999999999999999"}) {
+        std::string job = "[Job]\n";
+        for (const JobRow& row : jobFormat())
+            job.append(row.key).append("=").append(number).append("\n");
+        prompts.answers = {Answer::ok};  // the dates are none
+        load(job);
+        spin("dxHours", true);
+        spin("dxMinutes", false);
+        for (const auto key : {"SubFolder", "Action", "AttrSetSource"})
+            EXPECT_EQ(saved(key), "0") << key << '=' << number;
+    }
+}
+
 // With Windows line ends. Each text of the job says which field it is for.
 TEST_F(SaveTest, AFullJobComesBackByteForByte) {
     const std::string job = bytesOf(KESTEDIT_FULL_JOB);

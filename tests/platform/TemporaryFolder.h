@@ -1,18 +1,31 @@
 // A folder of a test's own and whole files in it.
 #pragma once
 
-#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <numeric>
+#include <set>
 #include <stdexcept>
 #include <stdlib.h>
 #include <string>
 #include <string_view>
 #include <system_error>
-#include <vector>
 
 namespace kestedit::test {
+
+inline std::string bytesOf(const std::filesystem::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+/// The names in a folder, in order and each with a blank behind it.
+inline std::string namesIn(const std::filesystem::path& folder) {
+    std::set<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(folder))
+        names.insert(entry.path().filename().string() + " ");
+    return std::accumulate(names.begin(), names.end(), std::string());
+}
 
 /// An empty folder that goes with everything in it when the test ends.
 class TemporaryFolder {
@@ -38,22 +51,11 @@ class TemporaryFolder {
         return path;
     }
 
-    /// The names in the folder, in order: what a test left behind.
-    [[nodiscard]] std::vector<std::string> names() const {
-        std::vector<std::string> names;
-        for (const auto& entry : std::filesystem::directory_iterator(path_))
-            names.push_back(entry.path().filename());
-        std::sort(names.begin(), names.end());
-        return names;
-    }
+    /// What a test left behind.
+    [[nodiscard]] std::string names() const { return namesIn(path_); }
 
   private:
     std::filesystem::path path_;
 };
-
-inline std::string bytesOf(const std::filesystem::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
 
 }  // namespace kestedit::test
