@@ -91,16 +91,13 @@ TEST_F(SaveJob, EditedJobKeepsItsFileUntilItIsRenamed) {
     EXPECT_EQ(jobNames(), "b.job ");
     EXPECT_EQ(nameIn("b"), "b");
     EXPECT_EQ(values.Mode + values.JobFile, "New" + jobFile("b").string());
-}
-
-TEST_F(SaveJob, RenamingReachesNoFileElsewhere) {
-    putJob("a", "[Job]\nName=../a\n");
-    fs::copy(jobFile("a"), jobFile("../a"));
-    edit("a");
-    type("dxName", "b");
+    putJob("../a", "");
+    putJob("c", "[Job]\nName=../a\n");
+    edit("c");
+    type("dxName", "d");
     EXPECT_EQ(save(), "saved");
-    EXPECT_EQ(jobNames(), "a.job b.job ");
-    EXPECT_TRUE(fs::exists(jobFile("../a")));
+    EXPECT_EQ(jobNames(), "b.job c.job d.job ");
+    EXPECT_TRUE(fs::exists(jobFile("../a"))) << "to rename reaches no file elsewhere";
 }
 
 TEST_F(SaveJob, NameWithACharacterThatNoFileNameHas) {
