@@ -47,7 +47,7 @@ void saveUnderFaults(SavingProgram& program, bool full) {
     std::cout << " |\n|---|---|---|---|---|---|---|---|\n";
     Counts all;
     for (const Scenario& scenario : scenarios) {
-        const Counts counts = tryEveryFault(program, scenario, full);
+        const Counts counts = Trial(program, scenario).tryEveryFault(full);
         printRow(scenario.title, counts);
         for (const auto& [column, count] : counts)
             all[column] += count;
@@ -56,8 +56,8 @@ void saveUnderFaults(SavingProgram& program, bool full) {
 }
 
 void saveWhileReplaced(SavingProgram& program) {
-    const int trusting = replaceMeanwhile(program, scenarios[0]);
-    const int careful = replaceMeanwhile(program, scenarios[1]);
+    const int trusting = Trial(program, scenarios[0]).replaceMeanwhile();
+    const int careful = Trial(program, scenarios[1]).replaceMeanwhile();
     if (careful <= trusting) report(std::string(scenarios[1].title), "is not read again");
     std::cout << "\nThe job replaced by another process at " << trusting + careful << " moments of a save: whole every "
               << "time, and updated when it\ncame before the save.\n";

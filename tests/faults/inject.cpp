@@ -1,5 +1,5 @@
 // Stands between the program and the C library (LD_PRELOAD): counts the calls that concern one folder and makes chosen
-// ones fail. It holds the functions by which the program reaches its jobs (Trial.cpp misses one that it does not). The
+// ones fail. It holds the functions by which the program reaches its jobs (Trial.h misses one that it does not). The
 // environment says all of this:
 //
 //   KESTEDIT_FAULTS_FOLDER     the folder, absolute and without links
