@@ -1,27 +1,86 @@
+// Files and folders: what is seen of them, and files replaced as a whole.
 #include <algorithm>
+#include <chrono>
+#include <future>
 #include <gtest/gtest.h>
 #include <string>
 #include <sys/stat.h>
 #include <system_error>
+#include <thread>
 #include <unistd.h>
 #include <utility>
 
+#include "platform/FileSystem.h"
+#include "platform/Patience.h"
 #include "platform/StagedFile.h"
+#include "platform/UserSettings.h"
 #include "tests/platform/TemporaryFolder.h"
 
 namespace kestedit::test {
 namespace {
 
 namespace fs = std::filesystem;
+using namespace std::chrono_literals;
 using enum StagedFile::Permissions;
 
-class StagedFiles : public testing::Test {
+class Files : public testing::Test {
   protected:
-    static fs::perms permissionsOf(const fs::path& file) { return fs::status(file).permissions(); }
-
     TemporaryFolder folder_;
+    LocalFileSystem files_;
     fs::path target_ = folder_.path() / "job";
 };
+using StagedFiles = Files;
+
+TEST_F(Files, tellsFilesFromFoldersAndWhatCannotBeDone) {
+    const fs::path file = folder_.file("file", "");
+    EXPECT_TRUE(files_.FileExists(file));
+    EXPECT_FALSE(files_.FolderExists(file));
+    EXPECT_FALSE(files_.FileExists(folder_.path()));
+    EXPECT_TRUE(files_.FolderExists(folder_.path()));
+    EXPECT_FALSE(files_.inspectFolder(file, 10s).exists);
+    fs::create_symlink("loop", folder_.path() / "loop");
+    EXPECT_THROW(static_cast<void>(files_.FileExists(folder_.path() / "loop")), fs::filesystem_error);
+    EXPECT_THROW(files_.CreateFolder(folder_.path() / "x" / "y"), fs::filesystem_error);
+    EXPECT_THROW(files_.DeleteFile(folder_.path()), fs::filesystem_error);
+
+    fs::permissions(folder_.path(), fs::perms{0555});
+    const FolderStatus found = files_.inspectFolder(folder_.path(), 10s);
+    EXPECT_TRUE(found.answered && found.exists && found.readable);
+    EXPECT_EQ(found.writable, ::geteuid() == 0);
+    fs::permissions(folder_.path(), fs::perms{0755});
+    EXPECT_TRUE(files_.inspectFolder(folder_.path(), 10s).writable);
+}
+
+TEST_F(Files, joinsAndTakesApartPaths) {
+    EXPECT_EQ(files_.BuildPath("/a//", "/b"), "/a/b");
+    EXPECT_EQ(files_.BuildPath("/", "b"), "/b");
+    EXPECT_EQ(files_.BuildPath("", "b"), "b");
+    EXPECT_EQ(files_.GetFileName("/a/b/"), "b");
+    EXPECT_EQ(files_.GetFileName("/"), "");
+}
+
+TEST(Patience, anAnswerThatDoesNotComeCostsNoMoreThanThePatience) {
+    std::promise<int> wakeUp;
+    const std::shared_future<int> sleeper = wakeUp.get_future().share();
+    for (int i = 0; i < mostQuestions; ++i)
+        EXPECT_EQ(answerWithin(1ms, [sleeper] { return sleeper.get(); }), std::nullopt);
+    EXPECT_EQ(answerWithin(10s, [] { return 2; }), std::nullopt) << "no more threads for a system that hangs";
+    EXPECT_FALSE(LocalFileSystem().inspectFolder("/", 10s).answered);
+    EXPECT_EQ(LocalFileSystem().resolve("/a/../b/", 10s), "/b");
+    wakeUp.set_value(1);
+    while (questionsUnderWay > 0)
+        std::this_thread::yield();
+    EXPECT_EQ(answerWithin(10s, [] { return 3; }), 3);
+}
+
+TEST_F(Files, userSettingsCreateFolderAndFile) {
+    UserSettingsFile settings(folder_.path() / "a" / "b" / "user.ini");
+    EXPECT_EQ(settings.read("Options", "BGColor", "none"), "none");
+    EXPECT_FALSE(settings.write("Options", "BGColor", "\u20AC \u0416"));
+    EXPECT_EQ(settings.read("options", "bgcolor", "none"), "\u20AC \u0416");
+    EXPECT_EQ(UserSettingsFile(folder_.file("file", "") / "b" / "user.ini").write("S", "k", "v"),
+              std::errc::not_a_directory);
+}
 
 TEST_F(StagedFiles, theOldFileStandsUntilAllPiecesTakeItsPlaceInTheirOrder) {
     folder_.file("job", "old");
@@ -47,18 +106,18 @@ TEST_F(StagedFiles, permissionsAndOwnerAreKept) {
     for (const unsigned mode : {0600U, 0664U}) {
         fs::permissions(target_, fs::perms{mode});
         StagedFile(target_, "new", keep).commit();
-        EXPECT_EQ(permissionsOf(target_), fs::perms{mode});
+        EXPECT_EQ(fs::status(target_).permissions(), fs::perms{mode});
     }
     fs::permissions(target_, fs::perms{0444});
     EXPECT_THROW(StagedFile(target_, "never", keep), std::system_error);
     EXPECT_EQ(bytesOf(target_), "new");
     StagedFile(target_, "normal", makeNormal).commit();
-    EXPECT_EQ(permissionsOf(target_), fs::perms{0644});
+    EXPECT_EQ(fs::status(target_).permissions(), fs::perms{0644});
 
     const mode_t mask = umask(027);
     StagedFile(folder_.path() / "fresh", "", keep).commit();
     umask(mask);
-    EXPECT_EQ(permissionsOf(folder_.path() / "fresh"), fs::perms{0640});
+    EXPECT_EQ(fs::status(folder_.path() / "fresh").permissions(), fs::perms{0640});
 
     if (::chown(target_.c_str(), 1234, 4321) != 0) GTEST_SKIP() << "only root can give files away";
     ASSERT_EQ(::chmod(target_.c_str(), 02754), 0);
