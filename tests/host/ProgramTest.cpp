@@ -1,12 +1,19 @@
+// The program as a shell calls it: options, single keys, and scripts with their words, events and failures.
+#include <regex>
 #include <tuple>
 
+#include "host/ScriptParser.h"
+#include "host/ScriptText.h"
 #include "tests/host/ProgramFixture.h"
 
 namespace kestedit {
 
 namespace {
 
+using namespace std::string_literals;
 using test::ProgramTest;
+using ScriptTest = test::ProgramTest;
+using Words = std::vector<std::string>;
 
 TEST_F(ProgramTest, AFailureIsACodeAndOneLineAndDoesNothing) {
     const std::string noWindow =
@@ -55,6 +62,130 @@ TEST_F(ProgramTest, DefaultsAreTheUsersOwnFoldersAndLanguage) {
     static_cast<void>(folder.file("a.script", "type dxName Night\nprint cmdCancel.Caption\nclick cmdSave\n"));
     EXPECT_EQ(kestedit("script new <a.script").out, "cmdCancel.Caption = \"&Cancel\"\nevent SearchJobs\n");
     EXPECT_TRUE(std::filesystem::exists(home() / ".local/share/kestedit/Night.job"));
+}
+
+TEST(ScriptParser, SplitsLinesIntoWordsAndReadsBackWhatIsPrinted) {
+    const auto lines = parseScript(
+        "\xEF\xBB\xBF# a byte order mark and a comment\r\n"
+        "\ttype  dxName \"a b\" # more\r\n"
+        "\n"
+        "folder C:\\new#1\t\"\"\n" +
+        quotedText("# \t\r\"Größe\\n\"\0caf\xE9"s));
+    ASSERT_EQ(lines.size(), 3U);
+    EXPECT_EQ(lines[0].words, (Words{"type", "dxName", "a b"}));
+    EXPECT_EQ(lines[1].words, (Words{"folder", "C:\\new#1", ""}));
+    EXPECT_EQ(lines[1].number, 4);
+    EXPECT_EQ(lines[2].words,
+              Words{"# \t\r\"Größe\\n\"\0caf\uFFFD"s});  // what is printed is UTF-8, whatever a path holds
+}
+
+TEST_F(ScriptTest, SamplesMakeTheirJobs) {
+    const std::tuple<const char*, const char*, const char*, const char*> samples[] = {
+        {"new", "create", "Notes", "Interval=150"},
+        {"--view 9 edit Notes.job", "rename", "Notes, half-hourly", "Interval=30"},
+        {"new", "compress", "Documents, packed", "ZipPwd=correct horse"},
+        {"new", "sync", "Laptop and server", "IntervalTime=18:30:00"},
+        {"new", "monitor", "Incoming scans", "ExecMaxSec=300"},
+    };
+    for (const auto& [target, sample, job, line] : samples) {
+        const std::string path = KESTEDIT_DOCS "/../samples/"s + sample + ".script";
+        const auto result = kestedit("script --job-dir . "s + target + " '" + path + "'");
+        EXPECT_EQ(result.code, 0) << result.err;
+        EXPECT_TRUE(result.out.ends_with("event SearchJobs\n")) << sample << "\n" << result.out;
+        const std::string bytes = test::bytesOf(folder.path() / (job + ".job"s));
+        EXPECT_NE(bytes.find("\r\n"s + line + "\r\n"), std::string::npos) << bytes;
+    }
+}
+
+TEST_F(ScriptTest, PrintsEveryFormOfValueAndEveryList) {
+    const std::string printed = R"(dxComment.EditValue = "a\r\n\"b\""
+dxFileDate.EditValue = 2028-02-29
+dxDateTime.EditValue = 14:05:00
+dxHours.EditValue = 1
+dxSize.EditValue = Empty
+cmdSave.Enabled = True
+dxZipGrade.Items = ["None", "Low", "Normal", "High"]
+frmEdit.PageNodeIndex(11) = 11
+frmEdit.PageNodeIndex(99) = Empty
+frmEdit.FocusedControl = "dxName"
+)";
+    const std::string lines = std::regex_replace(printed, std::regex("(.+) = .+\n"), "print $1\n");
+    const std::string events = "type dxComment \"a\\n\\\"b\\\"\"\nchoose optAge 4\nset-date dxFileDate 2028-02-29\n";
+    EXPECT_EQ(script("new", events + lines + "frames\n").out, printed + "fraComment\nevent none\n");
+
+    const std::string lists = script("--view 9 new", "key down\nnodes\ntabs\ndump\n").out;
+    EXPECT_TRUE(lists.starts_with("node 0 \"Job name and notes\" \"\"\nnode 1 \"Mode\" \"2\" *\nnode 2 \"Source"));
+    EXPECT_NE(lists.find("\ndxTreeList1\ndxName\ndxComment\n"), std::string::npos);
+    EXPECT_NE(lists.find("\noptAction(3).State = 0\noptAction(3).Enabled = True\n"), std::string::npos);
+}
+
+TEST_F(ScriptTest, EndsAtTheFirstLineThatFails) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"timer\ntype dxName \"a\n", "4: a closing quote is missing"},
+        {"type dxName \"a\\", "3: a closing quote is missing"},
+        {"type dxName \"a\\x\"", "3: a backslash in quotes takes \", \\, r, n or t behind it"},
+        {"type dxName \"a\"b", "3: a blank is missing behind a closing quote"},
+        {"type dxName a\"b", "3: a quote inside a word: put the whole word in quotes and write \\\""},
+        {"# \xE4", "3: the line is not UTF-8"},
+        {"type dxName a b", "3: write type CONTROL TEXT"},
+        {"check chkPreview 3", "3: check: \"3\" is not 0, 1 or 2"},
+        {"choose optAction -1", "3: choose: \"-1\" is not an index from 0"},
+        {"number dxDays 9223372036854775808", "3: number: \"9223372036854775808\" is not a whole number"},
+        {"answer maybe", "3: answer: \"maybe\" is not ok, yes, no, cancel, retry or continue"},
+        {"print .State", "3: print: \".State\" is not a name, a dot and a property"},
+        {"set-date dxDate 2026-2-9", "3: set-date: \"2026-2-9\" is not a date such as 2026-11-21"},
+        {"set-time dxDateTime 14:05", "3: set-time: \"14:05\" is not a time of day such as 14:05:00"},
+        {"bogus", "3: unknown event \"bogus\""},
+        {"type dxFoo x", "3: no control named dxFoo"},
+        {"choose optAction 6", "3: no control named optAction(6)"},
+        {"print dxName.Size", "3: dxName has no property Size"},
+        {"print frmEdit.TextCatalogue(85)", "3: frmEdit has no property TextCatalogue(85)"},
+        {"print frmEdit.Caption(0)", "3: frmEdit has no property Caption(0)"},
+        {"print dlgNewFolder.Caption", "3: dlgNewFolder is not open"},
+        {"button dxSource 1\nnode 1", "4: dlgNewFolder is in front of the form"},
+        {"file /bin/true\nbutton dxSource 0",
+         "4: the answer \"/bin/true\" is queued for another chooser than folder \"Select source folder:\" \".\" 69"},
+        {"answer cancel\nbutton dxSource 1\ntype dxTextEdit1 home\nclick cmdCreate",
+         "6: the answer Cancel is none of message \"kestEdit\" \"Folder already exists.\" [Ok]"},
+        {"check dxName 1", "3: dxName takes no such event"},
+        {"click cmdCancel\nclick cmdCancel", "4: the form has closed"},
+    };
+    for (const auto& [lines, reason] : cases) {
+        const auto result = script("new", "type dxName Night\ntype dxSource .\n"s + lines + "\nclick cmdSave\n");
+        EXPECT_EQ(result.code, 1);
+        EXPECT_EQ(result.out, "event none\n");
+        EXPECT_EQ(result.err, "kestedit: home/script:"s + reason + "\n");
+    }
+    EXPECT_EQ(folder.names(), "home ");
+}
+
+TEST_F(ScriptTest, AnswersAreQueuedAheadAlsoForTheLoadingForm) {
+    static_cast<void>(folder.file("a.job", "[Job]\nName=a\nIntervalDate=2026/11/21\n"));
+    const auto unanswered = script("edit a.job", "timer\nanswer ok\n");
+    EXPECT_EQ(unanswered.code, 1);
+    EXPECT_TRUE(unanswered.err.starts_with("kestedit: home/script: no answer is queued for message \"Information\" "));
+    const auto answered =
+        script("edit a.job", "answer ok\nfolder \"/a b\"\nbutton dxSource 0\nbutton dxSource 0\nclose\n");
+    const std::string chooser = "folder \"Select source folder:\" \"";
+    EXPECT_TRUE(answered.out.ends_with("[Ok] -> Ok\n" + chooser + "\" 69 -> \"/a b\"\n" + chooser +
+                                       "/a b\" 69 -> \"\"\nevent SetNewValues \"\"\n"))
+        << answered.out;
+}
+
+TEST_F(ScriptTest, TextsOfTheProgramStandInTheirPageWhateverTheJobsHave) {
+    environment = "LANG=de_DE.UTF-8 LC_ALL=de_DE.UTF-8";
+    const auto result =
+        script("--code-page 65001 new", "print frmEdit.TextCatalogue(40)\ntype dxName Łódź\nclick cmdSave\n");
+    EXPECT_EQ(result.out, "frmEdit.TextCatalogue(40) = \"Überwachung\"\nevent SearchJobs\n");
+    EXPECT_NE(test::bytesOf(folder.path() / "Łódź.job").find("Name=Łódź"), std::string::npos);
+}
+
+TEST_F(ScriptTest, EventsGoToTheDialogInFront) {
+    const std::string open = "type dxSource .\nbutton dxSource 1\nprint dlgNewFolder.Caption\n";
+    const auto created = script("new", open + "type dxTextEdit1 sub\nclick cmdCreate\nprint dxSource.EditValue\n");
+    EXPECT_TRUE(created.out.ends_with("\ndxSource.EditValue = \"./sub\"\nevent none\n")) << created.out << created.err;
+    EXPECT_EQ(script("new", open).code, 0);
+    EXPECT_TRUE(script("new", open + "close\nprint dxSource.EditValue\n").out.ends_with("\".\"\nevent none\n"));
 }
 
 }  // namespace
