@@ -92,8 +92,9 @@ TEST_P(LanguageFile, LeavesNoTextEmptyButThoseOfTheRulesAndNoMnemonicInsideOfOne
     EXPECT_EQ(form.Localizer.size() - static_cast<std::size_t>(std::ranges::count(form.Localizer, "")), 9U);
 }
 
-TEST_P(LanguageFile, HasEveryTextOnceAndWhole) {
-    std::ifstream in{shippedLanguage(GetParam()), std::ios::binary};
+/// The names of a file's texts, each of which stands there once and whole.
+std::set<std::string> textsIn(const char* language) {
+    std::ifstream in{shippedLanguage(language), std::ios::binary};
     std::set<std::string> names;
     std::string section;
     for (std::string line; std::getline(in, line);) {
@@ -105,7 +106,11 @@ TEST_P(LanguageFile, HasEveryTextOnceAndWhole) {
         EXPECT_TRUE(names.insert(name).second) << name << " stands twice; the second is never read";
         EXPECT_LT(line.size() - split - 2, static_cast<std::size_t>(textSize)) << name << " is cut";
     }
-    EXPECT_GT(names.size(), 193U);
+    return names;
+}
+
+TEST_P(LanguageFile, HasTheTextsOfTheGermanOneEachOnceAndWhole) {
+    EXPECT_EQ(textsIn(GetParam()), textsIn("german"));
 }
 
 TEST_F(LanguageTest, TheGermanFileSaysWhatTheBuiltInTextsSay) {
