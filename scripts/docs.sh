@@ -12,20 +12,23 @@ fail() {
 
 scripts/setup.sh build package
 cmake --preset dev >/dev/null
-cmake --build --preset dev --parallel "$(nproc)" --target kestedit >/dev/null
+cmake --build --preset dev --parallel "$(nproc)" --target kestedit
 kestedit=$PWD/build/dev/host/kestedit
 
 # The program's options, and the events of a script as the table of the document has them.
 # shellcheck disable=SC2016  # the backquotes are the table's
 listed() {
-    { "$kestedit" script --help && "$kestedit" ini get --help; } | grep -oE -- '--[a-z-]+'
-    "$kestedit" script --help | sed -n '/A script has/,$p' | sed -nE 's/^  ([a-z][^ ]*( [^ ]+)*)  .*/| `\1` |/p'
+    local script single
+    script=$("$kestedit" script --help) && single=$("$kestedit" ini get --help) || return
+    grep -oE -- '--[a-z-]+' <<<"$script$single"
+    sed -n '/A script has/,$p' <<<"$script" | sed -nE 's/^  ([a-z][^ ]*( [^ ]+)*)  .*/| `\1` |/p'
 }
-[[ $(listed | grep -c '^|') -gt 20 ]] || fail "the help lists no events"
+words=$(listed) || fail "the program gives no help"
+[[ $(grep -c '^|' <<<"$words") -gt 20 ]] || fail "the help lists no events"
 sed 's/\\\([-|]\)/\1/g' docs/kestedit.1 docs/script.md >build/documented
 while read -r word; do
     grep -qF -- "$word" build/documented || fail "neither docs/kestedit.1 nor docs/script.md has $word"
-done < <(listed)
+done <<<"$words"
 echo "docs.sh: docs/kestedit.1 and docs/script.md have all that the help lists"
 
 # The first two indented blocks behind the synopsis: a script, and what it prints.
@@ -33,8 +36,8 @@ example() {
     awk -v wanted="$1" '/^    / { block += !inside++; if (block == wanted) print substr($0, 5); next } { inside = 0 }' docs/script.md
 }
 folder=$(mktemp -d)
-printed=$(example 2 | "$kestedit" script --job-dir "$folder" new) || fail "the example of docs/script.md fails"
-rm -rf "$folder"
+trap 'rm -rf "$folder"' EXIT
+printed=$(example 2 | env -i HOME="$folder" "$kestedit" script new) || fail "the example of docs/script.md fails"
 [[ $printed == "$(example 3)" ]] || fail "the example of docs/script.md prints"$'\n'"$printed"
 echo "docs.sh: the example of docs/script.md prints what it says"
 

@@ -1,5 +1,6 @@
 // What each choice of the user makes reachable and which mark it gives its page: one walk of events for each subject.
 #include <map>
+#include <set>
 #include <sstream>
 
 #include "editor/NodeImages.h"

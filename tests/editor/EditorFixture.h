@@ -6,7 +6,6 @@
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
-#include <set>
 
 #include "editor/dlgNewFolder.h"
 #include "editor/frmEdit.h"

@@ -40,7 +40,7 @@ TEST_F(BadInputTest, NoLanguageFileKeepsTheEditorFromWorking) {
     ASSERT_EQ(::mkfifo((folder.path() / "pipe").c_str(), 0600), 0);
     static_cast<void>(folder.file("other.ini", "[Desktop Entry]\nName=Other\n[frmEdit]\nt0=" + std::string(70000, 'x') +
                                                    "\nt1=%s%n\nt6\n=t7\nt8==\n[All]\nt0=\xFF\xFE\n[Weekdays]\nt0=\n"));
-    fs::resize_file(folder.file("huge", "[frmEdit]\nt0=huge\n"), std::uintmax_t{200} << 20U);
+    fs::resize_file(folder.file("huge", "[All]\nt1=huge\n"), std::uintmax_t{200} << 20U);
     for (const std::string file : {"missing", "other.ini", "pipe", "home", "/dev/zero", "huge"}) {
         const auto result = script("--language " + file + " new", "print cmdSave.Caption\n");
         EXPECT_EQ(result.out, "cmdSave.Caption = \"&Speichern\"\nevent none\n") << file << ": " << result.err;

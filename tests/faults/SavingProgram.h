@@ -1,6 +1,7 @@
 // The real program, run in a folder of its own with faults in its way.
 #pragma once
 
+#include <filesystem>
 #include <map>
 #include <set>
 #include <sstream>
@@ -40,10 +41,11 @@ class SavingProgram : public Program {
         static_cast<void>(folder.file("log", ""));
         // The sanitizers' runtime wants to come first, but what is put ahead of it here replaces none of its functions.
         environment = "LD_PRELOAD=" KESTEDIT_INJECT " ASAN_OPTIONS=verify_asan_link_order=0:detect_leaks=0" +
-                      (" KESTEDIT_FAULTS_FOLDER=" + jobDir) + " KESTEDIT_FAULTS_LOG=log KESTEDIT_FAULTS='" +
+                      (" KESTEDIT_FAULTS_FOLDER='" + jobDir) + "' KESTEDIT_FAULTS_LOG=log KESTEDIT_FAULTS='" +
                       call.faults + "' KESTEDIT_FAULTS_CLOCK=" + std::to_string(call.clock) +
                       " KESTEDIT_FAULTS_MEANWHILE='LD_PRELOAD= mv foreign jobs/a.job'";
-        Outcome outcome{script(call.target == "new" ? "new" : "edit " + jobDir + "/" + call.target, call.script), {}};
+        Outcome outcome{script(call.target == "new" ? "new" : "edit '" + jobDir + "/" + call.target + "'", call.script),
+                        {}};
         std::istringstream lines(bytesOf(folder.path() / "log"));
         for (std::string name; lines >> name;)
             outcome.calls.push_back(name);

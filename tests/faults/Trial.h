@@ -2,11 +2,13 @@
 #pragma once
 
 #include <algorithm>
+#include <filesystem>
 #include <iostream>
 #include <map>
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "tests/faults/SavingProgram.h"
 
@@ -19,6 +21,7 @@ struct Scenario {
     std::string_view lines;   ///< what the user does before the click on Save
     std::string_view target;  ///< the file that the save writes
     long clock;
+    int calls;  ///< that the save makes; fewer than these are counted when one goes past the faults
 };
 
 /// What the faults came to, by the titles of the columns.
@@ -59,8 +62,7 @@ class Trial {
         for (const std::string_view name : needed) {
             if (std::ranges::count(calls_, name) == 0) complain("no fault", "no call to " + std::string(name));
         }
-        if (std::ranges::count(calls_, "open") != std::ranges::count(calls_, "close"))
-            complain("no fault", "a file is opened or closed by a function that is not known");
+        if (counts_["calls"] != scenario.calls) complain("no fault", "not the calls of a save: is one hidden?");
     }
 
     /// Every call of the save fails, or is the last one that the program sees. `full`: with every error, and the calls

@@ -23,13 +23,13 @@ constexpr long unsettled = -3600;
 
 // clang-format off
 constexpr Scenario scenarios[] = {
-    {"the same file",           "a.job",    "type dxDest /new\n",                            "a.job",    settled},
-    {"a file changed just now", "a.job",    "type dxDest /new\n",                            "a.job",    unsettled},
-    {"a new job",               "",         "type dxName c\ntype dxDest /new\n",             "c.job",    settled},
-    {"a new job over another",  "",         "type dxName b\ntype dxDest /new\nanswer yes\n", "b.job",    settled},
-    {"over another job",        "a.job",    "type dxName b\ntype dxDest /new\nanswer yes\n", "b.job",    settled},
-    {"a rename",                "a.job",    "type dxName c\ntype dxDest /new\n",             "c.job",    settled},
-    {"through a link",          "link.job", "type dxDest /new\n",                            "link.job", settled},
+    {"the same file",           "a.job",    "type dxDest /new\n",                            "a.job",    settled,   11},
+    {"a file changed just now", "a.job",    "type dxDest /new\n",                            "a.job",    unsettled, 14},
+    {"a new job",               "",         "type dxName c\ntype dxDest /new\n",             "c.job",    settled,   10},
+    {"a new job over another",  "",         "type dxName b\ntype dxDest /new\nanswer yes\n", "b.job",    settled,   11},
+    {"over another job",        "a.job",    "type dxName b\ntype dxDest /new\nanswer yes\n", "b.job",    settled,   11},
+    {"a rename",                "a.job",    "type dxName c\ntype dxDest /new\n",             "c.job",    settled,   13},
+    {"through a link",          "link.job", "type dxDest /new\n",                            "link.job", settled,   14},
 };
 // clang-format on
 
@@ -64,7 +64,7 @@ void saveWhileReplaced(SavingProgram& program) {
 }
 
 void saveUnderReader(SavingProgram& program, int saves) {
-    program.restore();
+    program.restore();  // to the jobs of the last trial
     const auto job = program.jobs() / "a.job";
     const Call calls[] = {{"a.job", std::string("type dxDest /even\n") + saveLine},
                           {"a.job", std::string("type dxDest /a/much/longer/odd/path\n") + saveLine}};

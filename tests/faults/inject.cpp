@@ -1,6 +1,6 @@
 // Stands between the program and the C library (LD_PRELOAD): counts the calls that concern one folder and makes chosen
-// ones fail. It holds the functions by which the program reaches its jobs (Trial.h misses one that it does not). The
-// environment says all of this:
+// ones fail. It holds the functions by which the program reaches its jobs; a call by another one is missed in the count
+// (Trial.h). The environment says all of this:
 //
 //   KESTEDIT_FAULTS_FOLDER     the folder, absolute and without links
 //   KESTEDIT_FAULTS            "12:EIO 15:kill-after": what happens to which call; the first call is number 1

@@ -38,8 +38,8 @@ class Program {
     /// Runs `script` on what `target` says ("new", "edit a.job"), at a moment that stands still.
     [[nodiscard]] ProgramResult script(const std::string& target, const std::string& text) const {
         static_cast<void>(folder.file("home/script", text));
-        return kestedit("script --now 2026-11-21T14:05:00 --date-format dd.MM.yyyy --job-dir " + jobDir + " " + target +
-                        " home/script");
+        return kestedit("script --now 2026-11-21T14:05:00 --date-format dd.MM.yyyy --job-dir '" + jobDir + "' " +
+                        target + " home/script");
     }
 
     TemporaryFolder folder;

@@ -1,6 +1,7 @@
 // The program as a shell calls it: options, single keys, and scripts with their words, events and failures.
 #include <regex>
 #include <tuple>
+#include <vector>
 
 #include "host/ScriptParser.h"
 #include "host/ScriptText.h"

@@ -85,7 +85,8 @@ TEST_P(LanguageFile, LeavesNoTextEmptyButThoseOfTheRulesAndNoMnemonicInsideOfOne
               "optSyncExist(0) ");
     // These go into longer texts, where no letter is to be pressed.
     for (const std::string& text : form.TextCatalogue)
-        EXPECT_TRUE(trimBlanks(text) != "" && text.find('&') == text.npos) << text;
+        EXPECT_TRUE(trimBlanks(text) != "" && text.find('&') == text.npos)
+            << "entry " << &text - form.TextCatalogue.data() << ": " << text;
     for (const char* name : {"optAction(0)", "optAction(1)", "optAction(2)", "optAction(3)", "optAction(4)",
                              "optAction(5)", "chkPreview", "lblSource", "lblDest"})
         EXPECT_EQ(form.at(name).Caption.find('&'), std::string::npos) << name;
@@ -106,6 +107,7 @@ std::set<std::string> textsIn(const char* language) {
         EXPECT_TRUE(names.insert(name).second) << name << " stands twice; the second is never read";
         EXPECT_LT(line.size() - split - 2, static_cast<std::size_t>(textSize)) << name << " is cut";
     }
+    EXPECT_GT(names.size(), 193U);
     return names;
 }
 

@@ -162,6 +162,13 @@ TEST_F(IniWrite, noTextForgesALine) {
     EXPECT_EQ(store_.lastError(), std::errc::invalid_argument);
     EXPECT_EQ(bytesOf(folder_.path() / "write.ini"), before);
     EXPECT_EQ(written(before, " a ", "x", "\tS "), "[S]\nk=1\na=x\n");
+}
+
+TEST_F(IniWrite, theLastErrorStandsUntilAWriteSucceeds) {
+    EXPECT_FALSE(store_.write(folder_.path() / "a.ini", "S", "k", "v"));
+    EXPECT_EQ(store_.write(folder_.path() / "none/a.ini", "S", "k", "v"), std::errc::no_such_file_or_directory);
+    EXPECT_EQ(store_.lastError(), std::errc::no_such_file_or_directory);
+    EXPECT_FALSE(store_.write(folder_.path() / "a.ini", "S", "k", "v"));
     EXPECT_FALSE(store_.lastError());
 }
 
