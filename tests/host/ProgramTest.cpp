@@ -60,9 +60,11 @@ TEST_F(ProgramTest, IniReadsAndWritesOneKey) {
 }
 
 TEST_F(ProgramTest, DefaultsAreTheUsersOwnFoldersAndLanguage) {
-    static_cast<void>(folder.file("a.script", "type dxName Night\nprint cmdCancel.Caption\nclick cmdSave\n"));
+    static_cast<void>(
+        folder.file("a.script", "check chkEditPaths 0\ntype dxName Night\nprint cmdCancel.Caption\nclick cmdSave\n"));
     EXPECT_EQ(kestedit("script new <a.script").out, "cmdCancel.Caption = \"&Cancel\"\nevent SearchJobs\n");
-    EXPECT_TRUE(std::filesystem::exists(home() / ".local/share/kestedit/Night.job"));
+    for (const char* file : {".local/share/kestedit/Night.job", ".config/kestedit/program.ini"})
+        EXPECT_TRUE(std::filesystem::exists(home() / file)) << file;
 }
 
 TEST(ScriptParser, SplitsLinesIntoWordsAndReadsBackWhatIsPrinted) {
