@@ -42,7 +42,7 @@ class KESTEDIT_EXPORT FileSystem {
                                                         std::chrono::milliseconds patience) const = 0;
 };
 
-/// The machine's own file system. A host may see single folders in another way.
+/// The machine's own file system. Open to those who see some folders in another way.
 class KESTEDIT_EXPORT LocalFileSystem : public FileSystem {
   public:
     [[nodiscard]] bool FileExists(const std::filesystem::path& file) const override;
