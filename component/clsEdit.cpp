@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "editor/frmEdit.h"
-#include "persistence/ComponentValues.h"
+#include "form/ComponentValues.h"
 
 namespace kestedit {
 

@@ -18,7 +18,7 @@
 #include "desktop/pages/Pages.h"
 #include "desktop/widgets/NodeList.h"
 #include "desktop/widgets/PageArea.h"
-#include "editor/WindowTexts.h"
+#include "i18n/Texts.h"
 
 namespace kestedit {
 
@@ -146,8 +146,8 @@ void FormWindow::showHelp() {
         QDesktopServices::openUrl(QUrl::fromLocalFile(toQt(file)));
         return;
     }
-    const std::string text = file.empty() ? windowText(form_.texts(), WindowText::noHelp)
-                                          : windowText(form_.texts(), WindowText::helpMissing) + "\r\n" + file;
+    const std::string text = file.empty() ? textOf(form_.texts(), TextId::noHelp)
+                                          : textOf(form_.texts(), TextId::helpMissing) + "\r\n" + file;
     static_cast<void>(
         form_.platform().prompts.showMessage({form_.values().AppTitle, text, Buttons::ok, MessageIcon::information}));
 }

@@ -4,7 +4,7 @@
 #include <span>
 #include <string_view>
 
-#include "editor/FormModel.h"
+#include "form/FormModel.h"
 
 namespace kestedit {
 

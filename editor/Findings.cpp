@@ -1,67 +1,55 @@
 #include "editor/Findings.h"
 
-#include <array>
+#include "i18n/Texts.h"
 
 namespace kestedit {
 
 namespace {
 
-constexpr std::string_view findingsSection = "Findings";
-constexpr std::string_view placeholder = "%1";
-
-struct KeyedText {
-    std::string_view key;
-    std::string_view german;
-};
-
-KeyedText textOf(PathFinding finding) {
+TextId idOf(PathFinding finding) {
     switch (finding) {
         case PathFinding::noSource:
-            return {"t9", "Es ist kein Quellverzeichnis angegeben."};
+            return TextId::noSource;
         case PathFinding::sourceMissing:
-            return {"t0", "Das Quellverzeichnis existiert nicht."};
+            return TextId::sourceMissing;
         case PathFinding::sourceUnreadable:
-            return {"t1", "Das Quellverzeichnis kann nicht gelesen werden."};
+            return TextId::sourceUnreadable;
         case PathFinding::noDestination:
-            return {"t10", "Für diese Aktion ist kein Zielverzeichnis angegeben."};
+            return TextId::noDestination;
         case PathFinding::destinationMissing:
-            return {"t2", "Das Zielverzeichnis existiert nicht."};
+            return TextId::destinationMissing;
         case PathFinding::destinationNotWritable:
-            return {"t3", "In das Zielverzeichnis kann nicht geschrieben werden."};
+            return TextId::destinationNotWritable;
         case PathFinding::sameFolder:
-            return {"t6", "Quell- und Zielverzeichnis sind dasselbe."};
+            return TextId::sameFolder;
         case PathFinding::destinationInSource:
-            return {"t7", "Das Zielverzeichnis liegt im Quellverzeichnis."};
+            return TextId::destinationInSource;
         case PathFinding::sourceInDestination:
-            return {"t8", "Das Quellverzeichnis liegt im Zielverzeichnis."};
+            return TextId::sourceInDestination;
         case PathFinding::noMonitored:
-            return {"t11", "Es ist kein überwachter Ordner angegeben."};
+            return TextId::noMonitored;
         case PathFinding::monitoredMissing:
-            return {"t4", "Der überwachte Ordner existiert nicht."};
+            return TextId::monitoredMissing;
         case PathFinding::monitoredUnreadable:
-            return {"t5", "Der überwachte Ordner kann nicht gelesen werden."};
+            return TextId::monitoredUnreadable;
         case PathFinding::sourceNotWritable:
-            return {"t15", "In das Quellverzeichnis kann nicht geschrieben werden."};
+            return TextId::sourceNotWritable;
         case PathFinding::sourceNoAnswer:
         case PathFinding::destinationNoAnswer:
         case PathFinding::monitoredNoAnswer:
-            return {"t12", "Der Ordner %1 antwortet nicht."};
+            return TextId::folderSilent;
     }
-    return {};
+    return TextId::count;
 }
 
-KeyedText textOf(ScheduleFinding finding) {
+TextId idOf(ScheduleFinding finding) {
     switch (finding) {
         case ScheduleFinding::datePassed:
-            return {"t13", "Der gewählte Zeitpunkt ist schon vorbei."};
+            return TextId::datePassed;
         case ScheduleFinding::intervalZero:
-            return {"t14", "Zwischen zwei Läufen muss mindestens eine Minute liegen."};
+            return TextId::intervalZero;
     }
-    return {};
-}
-
-std::string readFinding(const modIniHandler& texts, KeyedText text) {
-    return texts.ReadLanguageText(findingsSection, text.key, text.german, textSize);
+    return TextId::count;
 }
 
 // The folder that a finding about a missing answer names.
@@ -71,20 +59,14 @@ std::string silentFolder(const FormModel& form, PathFinding finding) {
     return form.dxMonitorPath.text();
 }
 
-std::string filledIn(std::string message, std::string_view text) {
-    const auto place = message.find(placeholder);
-    if (place != std::string::npos) message.replace(place, placeholder.size(), text);
-    return message;
-}
-
 }  // namespace
 
 std::string FindingText(const modIniHandler& texts, PathFinding finding, const FormModel& form) {
-    return filledIn(readFinding(texts, textOf(finding)), silentFolder(form, finding));
+    return textOf(texts, idOf(finding), {silentFolder(form, finding)});
 }
 
 std::string FindingText(const modIniHandler& texts, ScheduleFinding finding) {
-    return readFinding(texts, textOf(finding));
+    return textOf(texts, idOf(finding));
 }
 
 bool IsStorablePath(const CodePage& page, std::string_view path) {
@@ -92,8 +74,7 @@ bool IsStorablePath(const CodePage& page, std::string_view path) {
 }
 
 std::string UnstorableText(const modIniHandler& texts, std::string_view text) {
-    return filledIn(
-        readFinding(texts, {"t20", "Der Text enthält Zeichen, die die Auftragsdatei nicht speichern kann: %1"}), text);
+    return textOf(texts, TextId::unstorable, {text});
 }
 
 }  // namespace kestedit

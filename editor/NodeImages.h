@@ -1,31 +1,13 @@
-// Marks in the navigation list: which page a number stands for, and the image that its node shows.
+// Marks in the navigation list: the image that a page's node shows.
 #pragma once
 
 #include <optional>
 #include <string>
 #include <string_view>
 
-#include "editor/FormModel.h"
+#include "form/FormModel.h"
 
 namespace kestedit {
-
-/// The pages by their numbers in the complete editor. Rules name pages by these, whatever the view.
-enum class Page : int {
-    comment,
-    mode,
-    path,
-    monitoring,
-    execute,
-    folders,
-    files,
-    extensions,
-    filesize,
-    date,
-    attributes,
-    compression,
-    existing,
-    reduced = 22  ///< a page that no view has; a new job of view 4 or 15 marks it all the same, without effect
-};
 
 namespace image {
 inline constexpr std::string_view none;

@@ -2,6 +2,8 @@
 
 #include <regex>
 
+#include "i18n/Texts.h"
+
 namespace kestedit {
 
 namespace {
@@ -29,7 +31,7 @@ std::optional<std::string> patternProblem(const FormModel& form, const EditorCon
     const EditorControl* const box = regExBox(form, field);
     if (!box || !box->isSet() || field.isEmpty() || !field.Visible || !field.Enabled) return std::nullopt;
     if (isRegularExpression(field.text())) return std::nullopt;
-    return texts.ReadLanguageText("Findings", "t21", "Kein gültiger regulärer Ausdruck", textSize);
+    return textOf(texts, TextId::badRegEx);
 }
 
 }  // namespace kestedit

@@ -1,7 +1,7 @@
 // Text fields that accept only certain characters: cleaned as the user types, reported when the job is saved.
 #pragma once
 
-#include "editor/FormModel.h"
+#include "form/FormModel.h"
 
 namespace kestedit {
 

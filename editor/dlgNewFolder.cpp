@@ -8,13 +8,12 @@
 #include "editor/Findings.h"
 #include "editor/LineBreaks.h"
 #include "editor/frmEdit.h"
+#include "i18n/Texts.h"
 
 namespace kestedit {
 
 namespace {
 
-constexpr std::string_view dialogSection = "dlgNewFolder";
-constexpr std::string_view defaultTitle = "Neuer Ordner";
 constexpr std::size_t shortestName = 2;
 
 /// What the dialog shows and says for one path field. The fixed English text of the source is deliberate; the other two
@@ -50,12 +49,11 @@ dlgNewFolder::dlgNewFolder(FormModel& form, const modIniHandler& texts, std::str
 void dlgNewFolder::Load() {
     if (serviceOf(form_.fMode)) {
         const std::array suffixes{form_.lblSource[0].Caption, form_.lblDest[0].Caption,
-                                  texts_.ReadLanguageText(dialogSection, "t3", defaultTitle, textSize)};
-        Caption = texts_.ReadLanguageText(dialogSection, "t0", defaultTitle, textSize) + " - " +
-                  suffixes.at(static_cast<std::size_t>(form_.fMode));
+                                  textOf(texts_, TextId::newMonitoredFolder)};
+        Caption = textOf(texts_, TextId::newFolder) + " - " + suffixes.at(static_cast<std::size_t>(form_.fMode));
     }
-    cmdCreate.Caption = texts_.ReadLanguageText(dialogSection, "t1", "&Erstellen", textSize);
-    cmdCancel.Caption = texts_.ReadLanguageText("All", "t0", "&Abbrechen", textSize);
+    cmdCreate.Caption = textOf(texts_, TextId::createButton);
+    cmdCancel.Caption = textOf(texts_, TextId::cancelButton);
     cmdCreate.Enabled = false;
     int index = 0;
     for (EditorControl* control : {&dxTextEdit1, &cmdCreate, &cmdCancel})
@@ -115,8 +113,7 @@ void dlgNewFolder::create() {
 
 void dlgNewFolder::reportExisting() {
     const std::string_view fixed = serviceOf(form_.fMode)->fixedMessage;
-    report(fixed.empty() ? texts_.ReadLanguageText(dialogSection, "t2", "Ordner existiert schon.", textSize)
-                         : std::string{fixed});
+    report(fixed.empty() ? textOf(texts_, TextId::folderExists) : std::string{fixed});
 }
 
 void dlgNewFolder::report(std::string_view text) {

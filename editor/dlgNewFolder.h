@@ -5,7 +5,7 @@
 #include <optional>
 #include <string_view>
 
-#include "editor/FormModel.h"
+#include "form/FormModel.h"
 #include "persistence/modIniHandler.h"
 #include "platform/Export.h"
 #include "platform/Platform.h"

@@ -10,6 +10,7 @@
 #include "editor/rules/RefreshPageStates.h"
 #include "editor/rules/action.h"
 #include "editor/rules/paths.h"
+#include "i18n/Catalogue.h"
 #include "i18n/LoadLanguage.h"
 #include "i18n/PickLists.h"
 #include "i18n/modMessages.h"
@@ -18,10 +19,6 @@
 namespace kestedit {
 
 namespace {
-
-// Catalogue entries of the window's caption.
-constexpr std::size_t newCaption = 0;
-constexpr std::size_t editCaption = 1;
 
 constexpr std::string_view windowSection = "EditWin";
 constexpr std::string_view globalSection = "Global";
@@ -103,10 +100,10 @@ void frmEdit::loadTexts() {
 
 void frmEdit::loadByMode() {
     if (values_.Mode == "Edit") {
-        Caption = values_.AppTitle + " - " + TextCatalogue[editCaption];
+        Caption = values_.AppTitle + " - " + TextCatalogue[catalogue::editJob];
         loadJob();
     } else if (values_.Mode == "New") {
-        Caption = values_.AppTitle + " - " + TextCatalogue[newCaption];
+        Caption = values_.AppTitle + " - " + TextCatalogue[catalogue::newJob];
         SetPresentDates(*this, platform_.clock.now());
     }
 }
@@ -121,11 +118,15 @@ void frmEdit::loadJob() {
     const std::string comment = ini_.ReadIniFileValue("Job", "Comment", "", values_.JobFile, textSize);
     GetValues(*this, *job, comment, platform_.dates, platform_.clock.now().date);
     ApplyLoadedChoices(*this);
-    if (DateFormatChanged) {
-        Notice notice = DateChangeNotice(ini_);
-        (void)platform_.prompts.showMessage(
-            {std::move(notice.title), std::move(notice.text), Buttons::ok, MessageIcon::information});
-    }
+    if (DateFormatChanged) tellDateChange();
+}
+
+void frmEdit::tellDateChange() {
+    using enum TextId;
+    std::string text = textOf(ini_, dateFormatChanged) + "\r\n\r\n" + textOf(ini_, keepDates) + " " +
+                       textOf(ini_, datesReset) + " " + textOf(ini_, checkDates);
+    (void)platform_.prompts.showMessage(
+        {textOf(ini_, dateTitle), std::move(text), Buttons::ok, MessageIcon::information});
 }
 
 void frmEdit::applyNewJob() {

@@ -10,9 +10,10 @@
 #include <string_view>
 #include <utility>
 
-#include "editor/FormModel.h"
 #include "editor/JobFolders.h"
-#include "persistence/ComponentValues.h"
+#include "form/ComponentValues.h"
+#include "form/FormModel.h"
+#include "i18n/Texts.h"
 #include "persistence/JobStore.h"
 #include "persistence/modIniHandler.h"
 #include "platform/Export.h"
@@ -98,6 +99,7 @@ class KESTEDIT_EXPORT frmEdit : public FormModel {
     void loadTexts();
     void loadByMode();
     void loadJob();
+    void tellDateChange();
     void applyNewJob();
     // events
     void requireReachable(const EditorControl& control, std::initializer_list<ControlKind> kinds) const;
@@ -116,8 +118,8 @@ class KESTEDIT_EXPORT frmEdit : public FormModel {
     void save();
     void saveNew(const std::string& name);
     void saveEdited(const std::string& name);
-    [[nodiscard]] Answer askForName(Buttons buttons, std::string_view firstKey);
-    [[nodiscard]] bool confirmOverwrite(std::string_view question);
+    [[nodiscard]] Answer askForName(Buttons buttons, TextId firstLine);
+    [[nodiscard]] bool confirmOverwrite(TextId question);
     [[nodiscard]] std::string jobPath(const std::string& name) const;
     void close();
 

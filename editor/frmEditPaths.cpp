@@ -8,6 +8,7 @@
 #include "editor/dlgNewFolder.h"
 #include "editor/frmEdit.h"
 #include "editor/modBrowseFolders.h"
+#include "i18n/Catalogue.h"
 
 namespace kestedit {
 
@@ -16,14 +17,13 @@ namespace {
 /// A path field that names a folder: its place is the dialog's fMode.
 struct FolderField {
     EditorControl FormModel::*field;
-    std::string_view titleKey;
-    std::string_view title;
+    TextId title;
 };
 
 constexpr std::array folderFields{
-    FolderField{&FormModel::dxSource, "t11", "Quellverzeichnis auswählen"},
-    FolderField{&FormModel::dxDest, "t12", "Zielverzeichnis auswählen"},
-    FolderField{&FormModel::dxMonitorPath, "t172", "Verzeichnis für Überwachung auswählen"},
+    FolderField{&FormModel::dxSource, TextId::chooseSource},
+    FolderField{&FormModel::dxDest, TextId::chooseDestination},
+    FolderField{&FormModel::dxMonitorPath, TextId::chooseMonitored},
 };
 
 int modeOf(const FormModel& form, const EditorControl& field) {
@@ -33,9 +33,7 @@ int modeOf(const FormModel& form, const EditorControl& field) {
     return mode;
 }
 
-// Catalogue entries of the program chooser, and its patterns.
-constexpr std::size_t programTitle = 83;
-constexpr std::size_t programFilter = 84;
+// Patterns and flags of the program chooser.
 constexpr std::string_view programPatterns = " (*.exe, *.com, *.bat)|*.exe;*.com;*.bat";
 constexpr unsigned hideReadOnlyBox = 4;
 constexpr unsigned fileMustExist = 4096;
@@ -44,7 +42,7 @@ constexpr unsigned fileMustExist = 4096;
 
 void frmEdit::browsePath(EditorControl& control) {
     const FolderField& field = folderFields.at(static_cast<std::size_t>(modeOf(*this, control)));
-    const std::string title = ini_.ReadLanguageText("Messages", field.titleKey, field.title, textSize) + ":";
+    const std::string title = textOf(ini_, field.title) + ":";
     const std::string folder =
         BrowseForFolder(platform_.prompts, title, control.text(), true, std::nullopt, true, false);
     if (folder.empty()) return;
@@ -66,9 +64,9 @@ void frmEdit::createFolder(EditorControl& control) {
 
 void frmEdit::browseExecPath(int button) {
     if (button != 0) return;
-    const auto file = platform_.prompts.chooseFile({TextCatalogue[programTitle],
-                                                    TextCatalogue[programFilter] + std::string{programPatterns}, 1,
-                                                    hideReadOnlyBox | fileMustExist});
+    const auto file = platform_.prompts.chooseFile(
+        {TextCatalogue[catalogue::programTitle], TextCatalogue[catalogue::programFilter] + std::string{programPatterns},
+         1, hideReadOnlyBox | fileMustExist});
     if (!file) return;
     if (!IsStorablePath(platform_.ini.codePage(), *file)) throw EventRefused(UnstorableText(ini_, *file));
     dxExecPath.EditValue = *file;

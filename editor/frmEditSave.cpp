@@ -4,6 +4,7 @@
 
 #include "editor/frmEdit.h"
 #include "editor/modCompNodes.h"
+#include "i18n/Catalogue.h"
 #include "persistence/modSaveValues.h"
 #include "platform/Text.h"
 
@@ -13,14 +14,6 @@ namespace {
 
 // What a job's name must not contain, since it becomes a file name. The slash stands here three times.
 constexpr std::string_view invalidNameChars = "<>|/\\//:´~^¨¦`*?\"";
-
-constexpr std::string_view messagesSection = "Messages";
-
-// Catalogue entries of the messages.
-constexpr std::size_t validationTitle = 79;
-constexpr std::size_t invalidName = 21;
-constexpr std::size_t filteredOut = 22;
-constexpr std::size_t pleaseCheck = 23;
 
 /// A field that a chosen option needs: it fails when it is empty or a character was dropped from it.
 struct RequiredField {
@@ -40,14 +33,14 @@ bool asksForPattern(const ControlArray<3>& group) {
 // regular expression is allowed. Test: SaveJob.FolderPatternIsReportedAgainUntilRegEx.
 // clang-format off
 constexpr std::array requiredFields{
-    RequiredField{&FormModel::dxRenamer,     [](const FormModel& form) { return form.optExist[2].isSet(); },
-                  &FormModel::InvalidRenamerChars,     &FormModel::InvalidRenamerChars,  24},
+    RequiredField{&FormModel::dxRenamer,     [](const FormModel& form) { return form.optExist[Existing::rename].isSet(); },
+                  &FormModel::InvalidRenamerChars,     &FormModel::InvalidRenamerChars,  catalogue::invalidRenamer},
     RequiredField{&FormModel::dxFileName,    [](const FormModel& form) { return asksForPattern(form.optFileMatch); },
-                  &FormModel::InvalidFileNameChars,    &FormModel::InvalidFileNameChars, 25},
+                  &FormModel::InvalidFileNameChars,    &FormModel::InvalidFileNameChars, catalogue::invalidFileName},
     RequiredField{&FormModel::dxFolderMatch, [](const FormModel& form) { return asksForPattern(form.optFolderMatch); },
-                  &FormModel::InvalidFolderMatchChars, &FormModel::InvalidFileNameChars, 37},
+                  &FormModel::InvalidFolderMatchChars, &FormModel::InvalidFileNameChars, catalogue::invalidFolderMatch},
     RequiredField{&FormModel::dxExt,         [](const FormModel& form) { return asksForPattern(form.optExt); },
-                  &FormModel::InvalidExtChars,         &FormModel::InvalidExtChars,      26},
+                  &FormModel::InvalidExtChars,         &FormModel::InvalidExtChars,      catalogue::invalidExt},
 };
 // clang-format on
 
@@ -71,16 +64,16 @@ std::string joined(std::initializer_list<std::string_view> lines) {
 
 void frmEdit::reportInvalid(EditorControl& control, std::size_t message) {
     (void)platform_.prompts.showMessage(
-        {TextCatalogue[validationTitle],
-         joined({TextCatalogue[message], TextCatalogue[filteredOut], TextCatalogue[pleaseCheck]}), Buttons::ok,
-         MessageIcon::none});
+        {TextCatalogue[catalogue::validationTitle],
+         joined({TextCatalogue[message], TextCatalogue[catalogue::filteredOut], TextCatalogue[catalogue::pleaseCheck]}),
+         Buttons::ok, MessageIcon::none});
     if (const auto position = nodeOfControl(*this, control)) showPage(*position);
     focus(control);
 }
 
 bool frmEdit::validate() {
     if (hasInvalidNameChar(dxName.text())) {
-        reportInvalid(dxName, invalidName);
+        reportInvalid(dxName, catalogue::invalidName);
         return false;
     }
     for (const RequiredField& row : requiredFields) {
@@ -104,11 +97,11 @@ void frmEdit::save() {
 
 void frmEdit::saveNew(const std::string& name) {
     if (name.empty()) {
-        (void)askForName(Buttons::cancelRetryContinue, "t3");
+        (void)askForName(Buttons::cancelRetryContinue, TextId::nameMissing);
         return;
     }
     const std::string file = jobPath(name);
-    if (platform_.files.FileExists(file) && !confirmOverwrite("Möchten Sie den existierenden Auftrag überschreiben?")) {
+    if (platform_.files.FileExists(file) && !confirmOverwrite(TextId::overwriteNew)) {
         return;
     }
     jobs_.write(file, SaveValues(*this, platform_.dates, platform_.clock.now()), JobStore::Write::create);
@@ -118,8 +111,7 @@ void frmEdit::saveNew(const std::string& name) {
 
 void frmEdit::saveEdited(const std::string& name) {
     if (name.empty()) {
-        // The text is looked up under the key of the last line, deliberately. Test: SaveJob.EmptyNameOfAnEditedJob.
-        if (askForName(Buttons::yesNo, "t6") == Answer::yes) {
+        if (askForName(Buttons::yesNo, TextId::nameMissingEdited) == Answer::yes) {
             dxName.EditValue = LoadedName;
             changed(dxName);
         }
@@ -133,7 +125,7 @@ void frmEdit::saveEdited(const std::string& name) {
     }
     const std::string file = jobPath(name);
     if (platform_.files.FileExists(file)) {
-        if (!confirmOverwrite("Möchten Sie diesen Auftrag überschreiben?")) return;
+        if (!confirmOverwrite(TextId::overwriteEdited)) return;
         jobs_.write(file, SaveValues(*this, platform_.dates, platform_.clock.now()), JobStore::Write::create);
     } else if (hasInvalidNameChar(LoadedName)) {
         // No save gave the old job this name, and it could lead to a file elsewhere: that one stays.
@@ -147,26 +139,17 @@ void frmEdit::saveEdited(const std::string& name) {
     close();
 }
 
-Answer frmEdit::askForName(Buttons buttons, std::string_view firstKey) {
-    const auto text = [this](std::string_view key, std::string_view german) {
-        return ini_.ReadLanguageText(messagesSection, key, german, textSize);
-    };
-    std::string question = joined({text(firstKey, "Das Feld 'Name des Autrages' darf nicht leer sein."),
-                                   text("t4", "Der Name wird als Dateiname benutzt."),
-                                   text("t5", "Bitte geben Sie einen Namen für Ihren Autrag ein."), "",
-                                   text("t6", "Möchten Sie den letzten Namen verwenden?")});
-    return platform_.prompts.showMessage(
-        {text("t7", "Zwingende Eingabe"), std::move(question), buttons, MessageIcon::none});
+Answer frmEdit::askForName(Buttons buttons, TextId firstLine) {
+    using enum TextId;
+    std::string question = joined({textOf(ini_, firstLine), textOf(ini_, nameIsFileName), textOf(ini_, nameWanted), "",
+                                   textOf(ini_, useLastName)});
+    return platform_.prompts.showMessage({textOf(ini_, nameTitle), std::move(question), buttons, MessageIcon::none});
 }
 
-bool frmEdit::confirmOverwrite(std::string_view question) {
-    const auto text = [this](std::string_view key, std::string_view german) {
-        return ini_.ReadLanguageText(messagesSection, key, german, textSize);
-    };
+bool frmEdit::confirmOverwrite(TextId question) {
     const Answer answer = platform_.prompts.showMessage(
-        {text("t10", "Meldung"),
-         joined({text("t8", "Ein Auftrag mit diesem Namen existiert schon!"), text("t9", question)}), Buttons::yesNo,
-         MessageIcon::none});
+        {textOf(ini_, TextId::saveTitle), joined({textOf(ini_, TextId::jobExists), textOf(ini_, question)}),
+         Buttons::yesNo, MessageIcon::none});
     return answer == Answer::yes;
 }
 

@@ -5,6 +5,7 @@
 
 #include "editor/rules/RefreshPageStates.h"
 #include "editor/rules/pageMarks.h"
+#include "i18n/Catalogue.h"
 
 namespace kestedit {
 
@@ -15,19 +16,19 @@ using F = FormModel;
 // Page number, title in the catalogue, frame: in the order of the list.
 // clang-format off
 constexpr std::array completeView{
-    ViewNode{ 0, 38, &F::fraComment},
-    ViewNode{ 1, 39, &F::fraMode},
-    ViewNode{ 2, 80, &F::fraPath},
-    ViewNode{ 3, 40, &F::fraMonitoring},
-    ViewNode{ 4, 60, &F::fraExecute},
-    ViewNode{ 5, 41, &F::fraFolders},
-    ViewNode{ 6, 42, &F::fraFiles},
-    ViewNode{ 7, 43, &F::fraExtensions},
-    ViewNode{ 8, 44, &F::fraFilesize},
-    ViewNode{ 9, 45, &F::fraDate},
-    ViewNode{10, 46, &F::fraAttributes},
-    ViewNode{11, 47, &F::fraCompression},
-    ViewNode{12, 48, &F::fraExisting},
+    ViewNode{ 0, catalogue::nameAndNotes, &F::fraComment},
+    ViewNode{ 1, catalogue::mode, &F::fraMode},
+    ViewNode{ 2, catalogue::paths, &F::fraPath},
+    ViewNode{ 3, catalogue::monitoring, &F::fraMonitoring},
+    ViewNode{ 4, catalogue::execution, &F::fraExecute},
+    ViewNode{ 5, catalogue::findFolders, &F::fraFolders},
+    ViewNode{ 6, catalogue::findFiles, &F::fraFiles},
+    ViewNode{ 7, catalogue::extensions, &F::fraExtensions},
+    ViewNode{ 8, catalogue::fileSize, &F::fraFilesize},
+    ViewNode{ 9, catalogue::fileDate, &F::fraDate},
+    ViewNode{10, catalogue::attributes, &F::fraAttributes},
+    ViewNode{11, catalogue::compression, &F::fraCompression},
+    ViewNode{12, catalogue::destinationPage, &F::fraExisting},
 };
 
 // The complete view less the pages of these numbers.
@@ -45,16 +46,16 @@ constexpr auto viewWithoutSchedule = completeViewWithout<3, 4>();
 // under a page number that nothing asks for. Test: Navigation.View23PairsNameWithPaths.
 constexpr int unnumbered = -1;
 constexpr std::array smallView{
-    ViewNode{ 0, 38, &F::fraPath},
-    ViewNode{ 1, 39, &F::fraMode},
-    ViewNode{ 4, 41, &F::fraFolders},
-    ViewNode{ 5, 42, &F::fraFiles},
-    ViewNode{ 6, 43, &F::fraExtensions},
-    ViewNode{ 7, 44, &F::fraFilesize},
-    ViewNode{ 8, 45, &F::fraDate},
-    ViewNode{ 9, 46, &F::fraAttributes},
-    ViewNode{11, 48, &F::fraExisting},
-    ViewNode{unnumbered, 49, &F::fraComment},
+    ViewNode{ 0, catalogue::nameAndNotes, &F::fraPath},
+    ViewNode{ 1, catalogue::mode, &F::fraMode},
+    ViewNode{ 4, catalogue::findFolders, &F::fraFolders},
+    ViewNode{ 5, catalogue::findFiles, &F::fraFiles},
+    ViewNode{ 6, catalogue::extensions, &F::fraExtensions},
+    ViewNode{ 7, catalogue::fileSize, &F::fraFilesize},
+    ViewNode{ 8, catalogue::fileDate, &F::fraDate},
+    ViewNode{ 9, catalogue::attributes, &F::fraAttributes},
+    ViewNode{11, catalogue::destinationPage, &F::fraExisting},
+    ViewNode{unnumbered, catalogue::comments, &F::fraComment},
 };
 
 struct View {
@@ -122,12 +123,12 @@ void BuildNavigationTree(FormModel& form) {
 
 void ApplyViewRestrictions(FormModel& form) {
     if (form.ViewLevel == "9") {
-        form.optAction[3].Visible = false;
-        form.optAction[4].Visible = false;
-        form.optIntervall[2].Visible = false;
+        form.optAction[Action::compress].Visible = false;
+        form.optAction[Action::extract].Visible = false;
+        form.optIntervall[Schedule::monitoring].Visible = false;
         form.fraExistingUnzip.Visible = false;
     } else if (form.ViewLevel == "23") {
-        for (const std::size_t member : {3U, 4U, 5U})
+        for (const Action member : {Action::compress, Action::extract, Action::synchronise})
             form.optAction[member].Visible = false;
         moveNameToPaths(form);
     }

@@ -4,8 +4,8 @@
 #include <span>
 #include <string_view>
 
-#include "editor/FormModel.h"
 #include "editor/NodeImages.h"
+#include "form/FormModel.h"
 
 namespace kestedit {
 

@@ -1,5 +1,7 @@
 #include "editor/modSpinButtons.h"
 
+#include "i18n/Catalogue.h"
+
 namespace kestedit {
 
 namespace {
@@ -33,14 +35,13 @@ void borrowMinutes(EditorControl& minutes, EditorControl& hours, EditorControl& 
     set(minutes, minutesInHour - 1);
 }
 
-// Texts of a unit in the catalogue.
 struct Unit {
-    std::size_t singular;
-    std::size_t plural;
+    catalogue::Entry singular;
+    catalogue::Entry plural;
 };
-constexpr Unit day{30, 29};
-constexpr Unit hour{31, 28};
-constexpr Unit minute{32, 27};
+constexpr Unit day{catalogue::day, catalogue::days};
+constexpr Unit hour{catalogue::hour, catalogue::hours};
+constexpr Unit minute{catalogue::minute, catalogue::minutes};
 
 void nameUnit(const FormModel& form, const EditorControl& editor, EditorControl& label, Unit unit) {
     label.Caption = form.TextCatalogue[editor.number() == 1 ? unit.singular : unit.plural];

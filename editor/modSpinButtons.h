@@ -1,7 +1,7 @@
 // Days, hours and minutes that behave like one duration, with the unit's name beside each.
 #pragma once
 
-#include "editor/FormModel.h"
+#include "form/FormModel.h"
 
 namespace kestedit {
 

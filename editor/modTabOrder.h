@@ -1,7 +1,7 @@
 // The keyboard order of the form.
 #pragma once
 
-#include "editor/FormModel.h"
+#include "form/FormModel.h"
 
 namespace kestedit {
 

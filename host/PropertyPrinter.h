@@ -4,7 +4,7 @@
 #include <ostream>
 #include <string_view>
 
-#include "editor/EditorControl.h"
+#include "form/EditorControl.h"
 
 namespace kestedit {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "editor/EditorControl.h"
+#include "form/EditorControl.h"
 
 namespace kestedit {
 

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "i18n/Catalogue.h"
 #include "i18n/PickLists.h"
 #include "i18n/modMessages.h"
 
@@ -32,8 +33,12 @@ struct UnitText {
     std::string_view german;
 };
 
-constexpr std::array<UnitText, 6> unitTexts{
-    {{2, 32, "Minute"}, {3, 27, "Minuten"}, {4, 31, "Stunde"}, {5, 28, "Stunden"}, {16, 30, "Tag"}, {17, 29, "Tage"}}};
+constexpr std::array<UnitText, 6> unitTexts{{{2, catalogue::minute, "Minute"},
+                                             {3, catalogue::minutes, "Minuten"},
+                                             {4, catalogue::hour, "Stunde"},
+                                             {5, catalogue::hours, "Stunden"},
+                                             {16, catalogue::day, "Tag"},
+                                             {17, catalogue::days, "Tage"}}};
 
 // The control library's own number of each localizer text, by key.
 constexpr std::array<std::size_t, 9> localizerIds{1, 0, 9, 8, 11, 10, 7, 12, 6};

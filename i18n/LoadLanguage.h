@@ -5,7 +5,7 @@
 #include <span>
 #include <string_view>
 
-#include "editor/FormModel.h"
+#include "form/FormModel.h"
 #include "persistence/modIniHandler.h"
 
 namespace kestedit {

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "i18n/Catalogue.h"
+
 namespace kestedit {
 
 void ReplaceItems(EditorControl& list, std::vector<std::string> entries) {
@@ -12,7 +14,9 @@ void ReplaceItems(EditorControl& list, std::vector<std::string> entries) {
 
 void FillPickLists(FormModel& form) {
     const auto& texts = form.TextCatalogue;
-    ReplaceItems(form.dxPickRenamer, {texts.at(10), texts.at(11), texts.at(12)});
+    ReplaceItems(form.dxPickRenamer,
+                 {texts.at(catalogue::firstRenameScheme), texts.at(catalogue::firstRenameScheme + 1),
+                  texts.at(catalogue::firstRenameScheme + 2)});
     ReplaceItems(form.dxPickExistSelecter, {form.ReplaceIfTexts.begin(), form.ReplaceIfTexts.end()});
 }
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "editor/FormModel.h"
+#include "form/FormModel.h"
 
 namespace kestedit {
 

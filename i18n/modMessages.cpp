@@ -5,13 +5,12 @@
 #include <stdexcept>
 #include <string_view>
 
-#include "editor/FormModel.h"
+#include "form/FormModel.h"
+#include "i18n/Catalogue.h"
 
 namespace kestedit {
 
 namespace {
-
-constexpr std::size_t firstReplaceIf = 52;
 
 // By their place in the catalogue. Spelling, the repeated words and the blank behind entry 14 are meant.
 constexpr std::array<std::string_view, builtInTexts> germanTexts{
@@ -108,9 +107,9 @@ void FillBuiltInTexts(std::span<std::string> catalogue, std::span<std::string> r
 }
 
 void FillReplaceIfTexts(std::span<const std::string> catalogue, std::span<std::string> replaceIf) {
-    requireSize(catalogue.size(), firstReplaceIf + replaceIfCount, "text catalogue");
+    requireSize(catalogue.size(), catalogue::firstReplaceIf + replaceIfCount, "text catalogue");
     requireSize(replaceIf.size(), replaceIfCount, "list of replace-if texts");
-    std::ranges::copy(catalogue.subspan(firstReplaceIf, replaceIfCount), replaceIf.begin());
+    std::ranges::copy(catalogue.subspan(catalogue::firstReplaceIf, replaceIfCount), replaceIf.begin());
 }
 
 }  // namespace kestedit

@@ -19,14 +19,16 @@ set(public_headers
   platform/UserSettings.h
   # for drivers of the form
   component/FrontEnd.h
-  editor/EditorControl.h
-  editor/FormModel.h
+  form/Choices.h
+  form/ComponentValues.h
+  form/EditorControl.h
+  form/FormModel.h
+  editor/ImageMeaning.h
   editor/JobFolders.h
   editor/PatternHint.h
-  editor/WindowTexts.h
   editor/dlgNewFolder.h
   editor/frmEdit.h
-  persistence/ComponentValues.h
+  i18n/Texts.h
   persistence/JobStore.h
   persistence/modIniHandler.h
 )

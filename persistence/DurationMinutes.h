@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "editor/FormModel.h"
+#include "form/FormModel.h"
 
 namespace kestedit {
 

@@ -190,20 +190,6 @@ void GetValues(FormModel& form, const JobRecord& job, std::string_view comment, 
     form.dxComment.EditValue = withLineBreaks(comment);
 }
 
-Notice DateChangeNotice(const modIniHandler& texts) {
-    const auto text = [&](std::string_view key, std::string_view german) {
-        return texts.ReadLanguageText("DateChangeInfo", key, german, textSize);
-    };
-    return {
-        text("t4", "Information"),
-        text("t0", "Das Datumsformat des Systems scheint geändert worden zu sein.") + "\r\n\r\n" +
-            text("t1",
-                 "Wenn Sie die vorherigen Einstellungen behalten möchten, dann brechen Sie diese Aktion ab, schliessen "
-                 "das Programm und ändern Sie in der Systemsteuerung das Datum auf das vorherige Format.") +
-            " " + text("t2", "Wenn Sie in diesem Fenster weiterarbeiten werden alle Datumsangaben zurückgesetzt.") +
-            " " + text("t3", "Überprüfen Sie dann bitte die Datumsangaben für die Überwachung.")};
-}
-
 void SetNewJobDefaults(FormModel& form, const LocalTime& now) {
     const auto selectFirst = [](auto&... groups) { (groups.select(0), ...); };
     selectFirst(form.optAction, form.optIntervall, form.optMonitorPath, form.optIntTime, form.optFolderMatch,

@@ -1,12 +1,10 @@
 // From a stored job, or from the new-job defaults, into the controls.
 #pragma once
 
-#include <string>
 #include <string_view>
 
-#include "editor/FormModel.h"
+#include "form/FormModel.h"
 #include "persistence/JobStore.h"
-#include "persistence/modIniHandler.h"
 #include "platform/DateFormat.h"
 #include "platform/DateTime.h"
 
@@ -19,13 +17,6 @@ void GetAction(FormModel& form, const JobRecord& job);
 /// the others by today); for one that does not read, DateFormatChanged is set. `comment` is the stored text of that
 /// key.
 void GetValues(FormModel& form, const JobRecord& job, std::string_view comment, const DateFormat& dates, Date today);
-
-/// The notice for DateFormatChanged.
-struct Notice {
-    std::string title;
-    std::string text;
-};
-[[nodiscard]] Notice DateChangeNotice(const modIniHandler& texts);
 
 /// Selects member 0 of the groups that a new job decides, and sets dates and time to now.
 void SetNewJobDefaults(FormModel& form, const LocalTime& now);

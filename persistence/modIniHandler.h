@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "persistence/ComponentValues.h"
+#include "form/ComponentValues.h"
 #include "platform/Export.h"
 #include "platform/IniStore.h"
 

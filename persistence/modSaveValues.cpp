@@ -15,8 +15,6 @@ namespace kestedit {
 namespace {
 
 constexpr std::int64_t leastFreeSpace = 2000;
-constexpr std::size_t synchroniseAction = 5;
-constexpr int actionPage = 1;
 
 // Entries of the text catalogue that two pick lists take.
 constexpr std::size_t levelEntries = 6;
@@ -112,7 +110,7 @@ std::string withCarets(std::string_view lines) {
 }
 
 std::string actionNodeImage(const FormModel& form) {
-    const auto position = form.PageNodeIndex.find(actionPage);
+    const auto position = form.PageNodeIndex.find(static_cast<int>(Page::mode));
     const auto& nodes = form.Navigation.Nodes;
     if (position == form.PageNodeIndex.end() || position->second < 0) return {};
     const auto node = static_cast<std::size_t>(position->second);
@@ -156,7 +154,7 @@ std::optional<std::string> valueOf(const Source& from, const JobRow& row) {
         case listPosition:     return std::to_string(form.at(row.control).itemIndex().value_or(-1));
         case jobName:          return guarded(std::string{trimBlanks(form.dxName.text())});
         case subfolders:       return subfoldersText(form);
-        case folderStructure:  return form.optAction[synchroniseAction].isSet() ? "1" : stateText(form.chkFStruct);
+        case folderStructure:  return form.optAction[Action::synchronise].isSet() ? "1" : stateText(form.chkFStruct);
         case freeSpace:        return freeSpaceText(form.dxFreeSpace);
         case zero:             return "0";
         case empty:            return "";

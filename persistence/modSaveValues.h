@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "editor/FormModel.h"
+#include "form/FormModel.h"
 #include "persistence/JobStore.h"
 #include "platform/DateFormat.h"
 #include "platform/DateTime.h"

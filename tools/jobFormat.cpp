@@ -15,7 +15,7 @@
 #include <string>
 #include <string_view>
 
-#include "editor/FormModel.h"
+#include "form/FormModel.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include "desktop/bindings/Kinds.h"
 #include "desktop/widgets/Heading.h"
 #include "desktop/widgets/NodeList.h"
-#include "editor/WindowTexts.h"
+#include "editor/ImageMeaning.h"
 
 namespace kestedit {
 

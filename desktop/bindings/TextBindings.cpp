@@ -13,7 +13,7 @@
 #include "desktop/widgets/PasswordEdit.h"
 #include "desktop/widgets/PathEdit.h"
 #include "editor/PatternHint.h"
-#include "editor/WindowTexts.h"
+#include "i18n/Texts.h"
 
 namespace kestedit {
 
@@ -79,8 +79,7 @@ class PasswordBinding final : public LineBinding {
   public:
     PasswordBinding(EditorControl& control, PasswordEdit& edit, EventGate& gate)
         : LineBinding(control, edit, edit.line(), gate), edit_(edit) {
-        edit.setButtonTexts(toQt(windowText(texts(), WindowText::showPassword)),
-                            toQt(windowText(texts(), WindowText::hidePassword)));
+        edit.setButtonTexts(toQt(textOf(texts(), TextId::showPassword)), toQt(textOf(texts(), TextId::hidePassword)));
     }
 
     [[nodiscard]] std::vector<QWidget*> focusWidgets() const override {
@@ -95,8 +94,8 @@ class PathBinding final : public LineBinding {
   public:
     PathBinding(EditorControl& control, PathEdit& edit, EventGate& gate)
         : LineBinding(control, edit, edit.line(), gate), edit_(edit) {
-        edit.setButtonTexts(toQt(windowText(texts(), WindowText::browse)),
-                            toQt(windowText(texts(), WindowText::newFolder)));
+        edit.setButtonTexts(toQt(textOf(texts(), TextId::browseButton)),
+                            toQt(textOf(texts(), TextId::newFolderButton)));
         QObject::connect(&edit, &PathEdit::buttonPressed, &edit, [this](int button) {
             this->gate().hand([this, button](frmEdit& form) { form.onInnerButton(this->control(), button); });
         });

@@ -4,7 +4,7 @@
 #include <QTreeWidget>
 #include <functional>
 
-#include "editor/FormModel.h"
+#include "form/FormModel.h"
 
 namespace kestedit {
 

@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "editor/FormModel.h"
+#include "form/FormModel.h"
 
 namespace kestedit {
 

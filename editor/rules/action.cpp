@@ -10,6 +10,7 @@
 #include "editor/rules/dateAge.h"
 #include "editor/rules/existing.h"
 #include "editor/rules/synchronise.h"
+#include "i18n/Catalogue.h"
 
 namespace kestedit {
 
@@ -63,9 +64,9 @@ void linkOptionsToAction(FormModel& form, Action action) {
         form.BringToFront(form.fraZielverzeichnis);
         ApplyOnlyCompare(form);
     }
-    form.lblSource[0].Caption = texts[synchronise ? 68 : 70];
-    form.lblDest[0].Caption = texts[synchronise ? 69 : 71];
-    form.chkOnlyCompare.Caption = texts[synchronise ? 76 : 77];
+    form.lblSource[0].Caption = texts[synchronise ? catalogue::synchroniseOneWay : catalogue::source];
+    form.lblDest[0].Caption = texts[synchronise ? catalogue::synchroniseBothWays : catalogue::destination];
+    form.chkOnlyCompare.Caption = texts[synchronise ? catalogue::onlyCompareSynchronised : catalogue::onlyCompare];
     TitleDestinationNode(form);
     if (synchronise) form.chkFStruct.State = 1;
     form.chkFStruct.TabStop = !synchronise;
@@ -89,7 +90,8 @@ void showDeleteOptions(FormModel& form, bool visible) {
 std::string noOptionText(const FormModel& form) {
     const auto action = form.optAction.selected();
     const std::string caption = action ? form.optAction[static_cast<std::size_t>(*action)].Caption : std::string{};
-    return "(" + form.TextCatalogue[39] + " " + caption + " - " + form.TextCatalogue[67] + ")";
+    return "(" + form.TextCatalogue[catalogue::mode] + " " + caption + " - " +
+           form.TextCatalogue[catalogue::noOptions] + ")";
 }
 
 }  // namespace
@@ -104,7 +106,8 @@ void TitleDestinationNode(FormModel& form) {
     const std::size_t position = form.ViewLevel == "4" ? 12 : 10;
     if (position >= form.Navigation.Nodes.size()) return;
     const bool synchronise = selectedAction(form) == Action::synchronise;
-    form.Navigation.Nodes[position].Title = form.TextCatalogue[synchronise ? 74 : 75];
+    form.Navigation.Nodes[position].Title =
+        form.TextCatalogue[synchronise ? catalogue::synchronisation : catalogue::destinationNode];
 }
 
 void ApplyAction(FormModel& form) {
@@ -133,8 +136,9 @@ void ApplyPreview(FormModel& form) {
 void ReflectOnlyCompare(FormModel& form) {
     if (selectedAction(form) != Action::synchronise) return;
     const bool comparing = form.chkOnlyCompare.isSet();
-    form.optSyncExist[0].Enabled = !comparing;
-    form.optSyncExist[0].Caption = form.TextCatalogue[comparing ? 73 : 72];
+    form.optSyncExist[SyncExisting::keep].Enabled = !comparing;
+    form.optSyncExist[SyncExisting::keep].Caption =
+        form.TextCatalogue[comparing ? catalogue::keepWhileComparing : catalogue::keepExisting];
     form.chkSyncDelete.Visible = !comparing;
 }
 
@@ -163,7 +167,7 @@ void ShowActionPicture(FormModel& form, int action) {
         text += " - " + form.chkPreview.Caption;
     }
     if (picture >= 1 && picture <= 2 * actionCount) form.ActionPicture = picture;
-    form.Image1.ToolTipText = form.TextCatalogue[39] + ": " + text;
+    form.Image1.ToolTipText = form.TextCatalogue[catalogue::mode] + ": " + text;
 }
 
 void ShowCompressionFrames(FormModel& form) {

@@ -3,11 +3,9 @@
 
 #include <string_view>
 
-#include "editor/FormModel.h"
+#include "form/FormModel.h"
 
 namespace kestedit {
-
-enum class Action : int { copy, move, remove, compress, extract, synchronise };
 
 [[nodiscard]] inline Action selectedAction(const FormModel& form) {
     return static_cast<Action>(form.SelectedAction);

@@ -1,7 +1,7 @@
 // How a rule takes an option away that has no effect under the present choices.
 #pragma once
 
-#include "editor/FormModel.h"
+#include "form/FormModel.h"
 
 namespace kestedit {
 

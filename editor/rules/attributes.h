@@ -1,7 +1,7 @@
 // File attributes: which exclude a file, and which the job sets at the source and at the destination.
 #pragma once
 
-#include "editor/FormModel.h"
+#include "form/FormModel.h"
 
 namespace kestedit {
 

@@ -1,16 +1,15 @@
 #include "editor/rules/compression.h"
 
-#include <array>
-
 #include "editor/NodeImages.h"
 #include "editor/rules/action.h"
+#include "i18n/Catalogue.h"
 
 namespace kestedit {
 
 namespace {
 
 constexpr int firstLevel = 1;
-constexpr std::array<std::size_t, 4> levelTexts{6, 7, 8, 9};
+constexpr std::size_t levelCount = 4;
 
 void setArchiveFolders(FormModel& form, bool all) {
     if (form.DisableInsteadOfHide) {
@@ -27,16 +26,16 @@ void setArchiveFolders(FormModel& form, bool all) {
 std::string_view copyMark(const FormModel& form) {
     if (!form.chkSubFolder.isSet()) return image::none;
     if (form.chkFStruct.isSet()) return image::applies;
-    return form.optExist[0].State == 0 ? image::applies : image::none;
+    return form.optExist[Existing::keep].State == 0 ? image::applies : image::none;
 }
 
 std::string_view extractMark(const FormModel& form) {
     if (form.chkFStruct.isSet()) return image::applies;
-    return form.optUnZip[0].State == 0 ? image::applies : image::none;
+    return form.optUnZip[UnZipExisting::keep].State == 0 ? image::applies : image::none;
 }
 
 std::string_view compressMark(const FormModel& form) {
-    return form.optExist[0].State == 0 ? image::applies : image::none;
+    return form.optExist[Existing::keep].State == 0 ? image::applies : image::none;
 }
 
 }  // namespace
@@ -67,10 +66,10 @@ void ApplyZipDelDeComp(FormModel& form) {
 
 void FillCompressionLevels(FormModel& form) {
     form.dxZipGrade.Items.clear();
-    for (const std::size_t entry : levelTexts)
-        form.dxZipGrade.Items.push_back(form.TextCatalogue[entry]);
+    for (std::size_t level = 0; level < levelCount; ++level)
+        form.dxZipGrade.Items.push_back(form.TextCatalogue[catalogue::firstLevel + level]);
     const int position = form.CompressionLevel - firstLevel;
-    if (position >= 0 && position < static_cast<int>(levelTexts.size())) {
+    if (position >= 0 && position < static_cast<int>(levelCount)) {
         form.dxZipGrade.EditValue = form.dxZipGrade.Items[static_cast<std::size_t>(position)];
     }
 }
@@ -100,7 +99,8 @@ void ApplyUnZipExisting(FormModel& form, int index) {
     // Test: CompressionRules.ExistingFilesMarkOfCompressAndExtract.
     if (selectedAction(form) == Action::compress) SetNodeImage(form, Page::existing, compressMark(form));
     if (selectedAction(form) == Action::extract) {
-        SetNodeImage(form, Page::existing, form.optUnZip[0].State == 0 ? image::applies : image::none);
+        SetNodeImage(form, Page::existing,
+                     form.optUnZip[UnZipExisting::keep].State == 0 ? image::applies : image::none);
     }
 }
 

@@ -11,10 +11,8 @@ namespace kestedit {
 
 namespace {
 
-enum AgeChoice : int { anyAge, olderThan, newerThan, fromTo, oneDate };
-
-int ageChoice(const FormModel& form) {
-    return form.optAge.selected().value_or(anyAge);
+AgeLimit ageLimit(const FormModel& form) {
+    return static_cast<AgeLimit>(form.optAge.selected().value_or(0));
 }
 
 /// A file written to the destination gets its time stamps there; one that goes into or comes out of an archive takes
@@ -31,12 +29,12 @@ void markDatePage(FormModel& form) {
 }  // namespace
 
 void ApplyAge(FormModel& form) {
-    const int choice = ageChoice(form);
-    SetAllApply(form, choice != anyAge, form.optFileAgeType);
-    SetAllApply(form, choice == olderThan || choice == newerThan, form.dxAge, form.lblFileAgeDays, form.dxAgeHours,
-                form.lblFileAgeHours, form.dxAgeMinutes, form.lblFileAgeMinutes);
-    SetAllApply(form, choice == fromTo, form.lblDatefrom, form.dxDateFrom, form.lblDateTo, form.dxDateTo);
-    SetAllApply(form, choice == oneDate, form.optFileDate, form.lblFileDate, form.dxFileDate);
+    const AgeLimit choice = ageLimit(form);
+    SetAllApply(form, choice != AgeLimit::any, form.optFileAgeType);
+    SetAllApply(form, choice == AgeLimit::older || choice == AgeLimit::newer, form.dxAge, form.lblFileAgeDays,
+                form.dxAgeHours, form.lblFileAgeHours, form.dxAgeMinutes, form.lblFileAgeMinutes);
+    SetAllApply(form, choice == AgeLimit::fromTo, form.lblDatefrom, form.dxDateFrom, form.lblDateTo, form.dxDateTo);
+    SetAllApply(form, choice == AgeLimit::oneDate, form.optFileDate, form.lblFileDate, form.dxFileDate);
     markDatePage(form);
 }
 
@@ -51,7 +49,7 @@ void ApplyDestFileTimePage(FormModel& form) {
 }
 
 bool NarrowsDate(const FormModel& form) {
-    return ageChoice(form) != anyAge ||
+    return ageLimit(form) != AgeLimit::any ||
            (setsTimeStamps(form) && std::ranges::any_of(form.chkDestFileTime, &EditorControl::isSet));
 }
 

@@ -1,7 +1,7 @@
 // Which files a job takes by date or age, and the time stamps that it sets at the destination.
 #pragma once
 
-#include "editor/FormModel.h"
+#include "form/FormModel.h"
 
 namespace kestedit {
 

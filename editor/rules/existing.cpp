@@ -8,12 +8,6 @@ namespace kestedit {
 
 namespace {
 
-// Members of optExist and optSyncExist.
-constexpr std::size_t ifNewer = 1;
-constexpr std::size_t renamed = 2;
-constexpr std::size_t ifCondition = 4;
-constexpr std::size_t syncIfCondition = 2;
-
 // Of the replace-if conditions, those that compare sizes only.
 constexpr int larger = 2;
 constexpr int smaller = 5;
@@ -28,12 +22,12 @@ bool handlesExisting(const FormModel& form) {
 }
 
 bool renames(const FormModel& form) {
-    return handlesExisting(form) && form.optExist[renamed].isSet();
+    return handlesExisting(form) && form.optExist[Existing::rename].isSet();
 }
 
 bool replacesOnCondition(const FormModel& form) {
-    return (handlesExisting(form) && form.optExist[ifCondition].isSet()) ||
-           (selectedAction(form) == Action::synchronise && form.optSyncExist[syncIfCondition].isSet());
+    return (handlesExisting(form) && form.optExist[Existing::replaceIf].isSet()) ||
+           (selectedAction(form) == Action::synchronise && form.optSyncExist[SyncExisting::replaceIf].isSet());
 }
 
 bool conditionComparesTimes(const FormModel& form) {
@@ -42,7 +36,7 @@ bool conditionComparesTimes(const FormModel& form) {
 }
 
 bool comparesTimes(const FormModel& form) {
-    return (handlesExisting(form) && form.optExist[ifNewer].isSet()) ||
+    return (handlesExisting(form) && form.optExist[Existing::replaceOlder].isSet()) ||
            (replacesOnCondition(form) && conditionComparesTimes(form));
 }
 

@@ -1,7 +1,7 @@
 // What happens to files that exist at the destination.
 #pragma once
 
-#include "editor/FormModel.h"
+#include "form/FormModel.h"
 
 namespace kestedit {
 

@@ -1,7 +1,7 @@
 // The name of a job.
 #pragma once
 
-#include "editor/FormModel.h"
+#include "form/FormModel.h"
 
 namespace kestedit {
 

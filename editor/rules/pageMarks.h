@@ -3,8 +3,8 @@
 
 #include <string_view>
 
-#include "editor/FormModel.h"
 #include "editor/NodeImages.h"
+#include "form/FormModel.h"
 
 namespace kestedit {
 

@@ -59,12 +59,12 @@ std::optional<PathFinding> compareFolders(const fs::path& source, const fs::path
 }
 
 bool watchesOwnFolder(const FormModel& form) {
-    return form.optIntervall[2].isSet() && form.optMonitorPath[2].isSet();
+    return form.optIntervall[Schedule::monitoring].isSet() && form.optMonitorPath[MonitoredFolder::own].isSet();
 }
 
 /// Whether the job deletes files at the source, or writes to it.
 bool changesSource(const FormModel& form) {
-    const bool deletesRenamed = form.optExist[2].isSet() && form.chkDelSourceRename.isSet();
+    const bool deletesRenamed = form.optExist[Existing::rename].isSet() && form.chkDelSourceRename.isSet();
     switch (selectedAction(form)) {
         case Action::move:
         case Action::remove:
@@ -76,7 +76,7 @@ bool changesSource(const FormModel& form) {
         case Action::extract:
             return form.chkZipDelDeComp.isSet();
         case Action::synchronise:
-            return form.optSyncStart[1].isSet();
+            return form.optSyncStart[SyncStart::bothWays].isSet();
     }
     return false;
 }

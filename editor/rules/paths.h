@@ -3,8 +3,8 @@
 
 #include <optional>
 
-#include "editor/FormModel.h"
 #include "editor/JobFolders.h"
+#include "form/FormModel.h"
 #include "platform/FileSystem.h"
 
 namespace kestedit {

@@ -9,16 +9,6 @@ namespace kestedit {
 
 namespace {
 
-// Members of optIntervall, optIntTime and optMonitorPath.
-constexpr std::size_t atInterval = 0;
-constexpr std::size_t atTime = 1;
-constexpr std::size_t onChange = 2;
-constexpr std::size_t weekly = 1;
-constexpr std::size_t monthly = 2;
-constexpr std::size_t onDate = 3;
-constexpr std::size_t watchDestination = 1;
-constexpr std::size_t watchOther = 2;
-
 bool isIntervalZero(const FormModel& form) {
     return form.dxDays.number() == 0 && form.dxHours.number() == 0 && form.dxMinutes.number() == 0;
 }
@@ -33,11 +23,11 @@ bool hasPassed(const FormModel& form, const LocalTime& now) {
 }  // namespace
 
 void ApplyIntervall(FormModel& form) {
-    SetAllApply(form, form.optIntervall[atInterval].isSet(), form.dxDays, form.lblDays, form.dxHours, form.lblHours,
-                form.dxMinutes, form.lblMinutes);
-    SetAllApply(form, form.optIntervall[atTime].isSet(), form.optIntTime);
+    SetAllApply(form, form.optIntervall[Schedule::interval].isSet(), form.dxDays, form.lblDays, form.dxHours,
+                form.lblHours, form.dxMinutes, form.lblMinutes);
+    SetAllApply(form, form.optIntervall[Schedule::time].isSet(), form.optIntTime);
     ApplyRunTime(form);
-    SetAllApply(form, form.optIntervall[onChange].isSet(), form.lblRTMon, form.lblMonDelay, form.dxMonDelay,
+    SetAllApply(form, form.optIntervall[Schedule::monitoring].isSet(), form.lblRTMon, form.lblMonDelay, form.dxMonDelay,
                 form.lblWatchWhat, form.dxMonWatch, form.chkMonSubFolder);
     ApplyMonitorPath(form);
     SetNodeImage(form, Page::monitoring, ChoiceMark(ChangesSchedule(form)));
@@ -48,31 +38,31 @@ void ApplyIntTime(FormModel& form) {
 }
 
 void ApplyRunTime(FormModel& form) {
-    const bool timed = form.optIntervall[atTime].isSet();
+    const bool timed = form.optIntervall[Schedule::time].isSet();
     SetAllApply(form, timed, form.lblDateTime, form.dxDateTime);
-    SetApplies(form, form.dxIntWeekDay, timed && form.optIntTime[weekly].isSet());
-    SetApplies(form, form.dxIntMonthDay, timed && form.optIntTime[monthly].isSet());
-    SetAllApply(form, timed && form.optIntTime[onDate].isSet(), form.lblDate, form.dxDate);
+    SetApplies(form, form.dxIntWeekDay, timed && form.optIntTime[RunTime::weekly].isSet());
+    SetApplies(form, form.dxIntMonthDay, timed && form.optIntTime[RunTime::monthly].isSet());
+    SetAllApply(form, timed && form.optIntTime[RunTime::onDate].isSet(), form.lblDate, form.dxDate);
 }
 
 void ApplyMonitorPath(FormModel& form) {
-    const bool watching = form.optIntervall[onChange].isSet();
+    const bool watching = form.optIntervall[Schedule::monitoring].isSet();
     for (EditorControl& member : form.optMonitorPath) {
-        const bool exists = member.Member != static_cast<int>(watchDestination) || HasDestination(form);
+        const bool exists = member.Member != static_cast<int>(MonitoredFolder::destination) || HasDestination(form);
         SetApplies(form, member, watching && exists);
     }
-    SetApplies(form, form.dxMonitorPath, watching && form.optMonitorPath[watchOther].isSet());
+    SetApplies(form, form.dxMonitorPath, watching && form.optMonitorPath[MonitoredFolder::own].isSet());
 }
 
 bool ChangesSchedule(const FormModel& form) {
-    return form.optIntervall[atTime].isSet() || form.optIntervall[onChange].isSet();
+    return form.optIntervall[Schedule::time].isSet() || form.optIntervall[Schedule::monitoring].isSet();
 }
 
 std::optional<ScheduleFinding> CheckSchedule(const FormModel& form, const LocalTime& now) {
-    if (form.optIntervall[atTime].isSet() && form.optIntTime[onDate].isSet() && hasPassed(form, now)) {
+    if (form.optIntervall[Schedule::time].isSet() && form.optIntTime[RunTime::onDate].isSet() && hasPassed(form, now)) {
         return ScheduleFinding::datePassed;
     }
-    if (form.optIntervall[atInterval].isSet() && isIntervalZero(form)) return ScheduleFinding::intervalZero;
+    if (form.optIntervall[Schedule::interval].isSet() && isIntervalZero(form)) return ScheduleFinding::intervalZero;
     return std::nullopt;
 }
 

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "editor/FormModel.h"
+#include "form/FormModel.h"
 #include "platform/DateTime.h"
 
 namespace kestedit {

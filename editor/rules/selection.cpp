@@ -5,16 +5,11 @@
 #include "editor/rules/compression.h"
 #include "editor/rules/existing.h"
 #include "editor/rules/pageMarks.h"
+#include "i18n/Catalogue.h"
 
 namespace kestedit {
 
 namespace {
-
-// Positions in FormModel::TextCatalogue: a pattern field names the language of its pattern.
-constexpr std::size_t fileWildcards = 33;
-constexpr std::size_t folderWildcards = 34;
-constexpr std::size_t fileRegEx = 35;
-constexpr std::size_t folderRegEx = 36;
 
 /// Whether a member other than 0, "everything", is chosen. A group without a choice takes everything.
 bool restricts(const ControlArray<3>& group) {
@@ -67,11 +62,13 @@ void ApplyRegExFolder(FormModel& form) {
 }
 
 void UpdateFileNameCaption(FormModel& form) {
-    form.lblFileName.Caption = form.TextCatalogue.at(form.chkRegExFile.isSet() ? fileRegEx : fileWildcards);
+    form.lblFileName.Caption =
+        form.TextCatalogue.at(form.chkRegExFile.isSet() ? catalogue::fileRegEx : catalogue::fileWildcards);
 }
 
 void UpdateFolderNameCaption(FormModel& form) {
-    form.lblFolder.Caption = form.TextCatalogue.at(form.chkRegExFolder.isSet() ? folderRegEx : folderWildcards);
+    form.lblFolder.Caption =
+        form.TextCatalogue.at(form.chkRegExFolder.isSet() ? catalogue::folderRegEx : catalogue::folderWildcards);
 }
 
 bool NarrowsFolders(const FormModel& form) {

@@ -1,7 +1,7 @@
 // Which folders and files a job takes: patterns, extensions, size.
 #pragma once
 
-#include "editor/FormModel.h"
+#include "form/FormModel.h"
 
 namespace kestedit {
 

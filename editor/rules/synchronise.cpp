@@ -11,7 +11,7 @@ void ApplySyncExist(FormModel& form, int /*item*/) {
 }
 
 void ApplySyncStart(FormModel& form) {
-    const bool bothWays = form.optSyncStart[1].isSet();
+    const bool bothWays = form.optSyncStart[SyncStart::bothWays].isSet();
     form.chkSyncDelete.Enabled = !bothWays;  // always this one: its Visible follows chkOnlyCompare
 }
 

@@ -1,7 +1,7 @@
 // Synchronising two folders.
 #pragma once
 
-#include "editor/FormModel.h"
+#include "form/FormModel.h"
 
 namespace kestedit {
 

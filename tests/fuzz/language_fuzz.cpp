@@ -1,6 +1,6 @@
 // Any file as the language file: every text of the form is one that a user's job could hold, and never longer than
 // read.
-#include "editor/FormModel.h"
+#include "form/FormModel.h"
 #include "i18n/LoadLanguage.h"
 #include "tests/fuzz/Fuzzing.h"
 

@@ -4,6 +4,7 @@
 #include <set>
 
 #include "i18n/LoadLanguage.h"
+#include "i18n/Texts.h"
 #include "i18n/modMessages.h"
 #include "persistence/modIniHandler.h"
 #include "platform/Text.h"
@@ -126,6 +127,42 @@ TEST_F(LanguageTest, TheGermanFileSaysWhatTheBuiltInTextsSay) {
     for (std::size_t i = 0; i < builtInTexts; ++i)
         EXPECT_EQ(form.TextCatalogue[i], builtIn.TextCatalogue[i]) << i;
     EXPECT_EQ(form.ReplaceIfTexts, builtIn.ReplaceIfTexts);
+}
+
+/// The texts that the editor asks for while it runs.
+struct RunTimeTexts : LanguageTest {
+    std::vector<std::string> textsIn(const std::filesystem::path& file) {
+        IniStore ini;
+        ComponentValues values;
+        values.Language = file.string();
+        std::vector<std::string> texts;
+        for (int id = 0; id < static_cast<int>(TextId::count); ++id)
+            texts.push_back(textOf(modIniHandler{ini, values}, static_cast<TextId>(id)));
+        return texts;
+    }
+};
+
+TEST_F(RunTimeTexts, AFileWithoutThemSpeaksGermanOrElseEnglish) {
+    const auto german = textsIn(shippedLanguage("german"));
+    const auto english = textsIn(shippedLanguage("english"));
+    EXPECT_EQ(textsIn("").size(), german.size());
+    const auto none = textsIn("");
+    const auto french = textsIn(folder.file("texts.lng", "[Weekdays]\nt0=lundi\n"));
+    for (std::size_t i = 0; i < german.size(); ++i) {
+        // The file has one wording for each key, the built-in texts have two here.
+        const auto id = static_cast<TextId>(i);
+        const bool ofTwo = id == TextId::nameMissingEdited || id == TextId::overwriteEdited;
+        EXPECT_TRUE(ofTwo || german[i] == none[i]) << german[i] << none[i];
+        EXPECT_EQ(french[i], id >= TextId::sourceMissing ? english[i] : none[i]);
+        EXPECT_TRUE(id == TextId::dateTitle || english[i] != german[i]) << english[i];
+    }
+}
+
+TEST_F(RunTimeTexts, AValueIsFilledInOnceWhateverItReads) {
+    IniStore ini;
+    ComponentValues values;
+    EXPECT_EQ(textOf(modIniHandler{ini, values}, TextId::folderSilent, {"/a%1b%2"}),
+              "Der Ordner /a%1b%2 antwortet nicht.");
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -113,6 +114,10 @@ class KESTEDIT_EXPORT ControlRegistry {
     mutable std::vector<std::uint16_t> firstsByName_;  // first control of each name, sorted by name; made on first use
 };
 
+/// An enumeration of the members of a control array.
+template <typename Name>
+concept MemberName = std::is_enum_v<Name>;
+
 /// A control array: N controls of one name, addressed by index.
 template <std::size_t N>
 class ControlArray {
@@ -122,6 +127,15 @@ class ControlArray {
 
     [[nodiscard]] EditorControl& operator[](std::size_t index) { return members_.at(index); }
     [[nodiscard]] const EditorControl& operator[](std::size_t index) const { return members_.at(index); }
+    /// By what the member stands for: `optAction[Action::move]`.
+    template <MemberName Name>
+    [[nodiscard]] EditorControl& operator[](Name member) {
+        return members_.at(static_cast<std::size_t>(member));
+    }
+    template <MemberName Name>
+    [[nodiscard]] const EditorControl& operator[](Name member) const {
+        return members_.at(static_cast<std::size_t>(member));
+    }
     [[nodiscard]] auto begin() { return members_.begin(); }
     [[nodiscard]] auto end() { return members_.end(); }
     [[nodiscard]] auto begin() const { return members_.begin(); }

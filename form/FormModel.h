@@ -7,7 +7,8 @@
 #include <string_view>
 #include <vector>
 
-#include "editor/EditorControl.h"
+#include "form/Choices.h"
+#include "form/EditorControl.h"
 #include "platform/Export.h"
 
 namespace kestedit {

@@ -1,4 +1,4 @@
-#include "editor/EditorControl.h"
+#include "form/EditorControl.h"
 
 #include <algorithm>
 #include <charconv>

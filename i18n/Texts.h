@@ -1,0 +1,87 @@
+// The texts that the editor asks for while it runs: messages, findings, titles of its dialogs, words of its window.
+#pragma once
+
+#include <cstdint>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+#include "persistence/modIniHandler.h"
+#include "platform/Export.h"
+
+namespace kestedit {
+
+/// In the order of the table in Texts.cpp, which gives section and key of each.
+enum class TextId : std::uint8_t {
+    // saving
+    nameMissing,
+    nameMissingEdited,
+    nameIsFileName,
+    nameWanted,
+    useLastName,
+    nameTitle,
+    jobExists,
+    overwriteNew,
+    overwriteEdited,
+    saveTitle,
+    // titles of the folder choosers
+    chooseSource,
+    chooseDestination,
+    chooseMonitored,
+    // dates of another format
+    dateFormatChanged,
+    keepDates,
+    datesReset,
+    checkDates,
+    dateTitle,
+    // the dialog for a new folder
+    newFolder,
+    createButton,
+    cancelButton,
+    folderExists,
+    newMonitoredFolder,
+    // findings about paths
+    sourceMissing,
+    sourceUnreadable,
+    destinationMissing,
+    destinationNotWritable,
+    monitoredMissing,
+    monitoredUnreadable,
+    sameFolder,
+    destinationInSource,
+    sourceInDestination,
+    noSource,
+    noDestination,
+    noMonitored,
+    folderSilent,
+    sourceNotWritable,
+    // findings about the schedule
+    datePassed,
+    intervalZero,
+    // findings about a field
+    unstorable,
+    badRegEx,
+    // the window
+    browseButton,
+    newFolderButton,
+    showPassword,
+    hidePassword,
+    noHelp,
+    helpMissing,
+    // what a node's sign means
+    jobActive,
+    jobInactive,
+    pageApplies,
+    pageDoesNotApply,
+    count
+};
+
+/// The text as the language file has it. One that the file lacks comes in German when the file is German or missing,
+/// otherwise in English (those that came with the first language files have a German form only).
+[[nodiscard]] KESTEDIT_EXPORT std::string textOf(const modIniHandler& language, TextId id);
+
+/// The same with `values` in the places of "%1", "%2" and so on.
+[[nodiscard]] KESTEDIT_EXPORT std::string textOf(const modIniHandler& language, TextId id,
+                                                 std::initializer_list<std::string_view> values);
+
+}  // namespace kestedit
