@@ -5,6 +5,7 @@
 #include <charconv>
 #include <string>
 
+#include "editor/FieldNotices.h"
 #include "editor/modCompNodes.h"
 #include "editor/modTabOrder.h"
 #include "editor/rules/RefreshPageStates.h"
@@ -79,6 +80,7 @@ void frmEdit::Load() {
     showPage(0);
     focus(dxName);
     SetTabOrder(*this);
+    RefreshNotices(*this, ini_);
     loading_ = false;
 }
 

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "editor/ChangeRules.h"
+#include "editor/FieldNotices.h"
 #include "editor/Findings.h"
 #include "editor/LineBreaks.h"
 #include "editor/NumberRanges.h"
@@ -69,6 +70,7 @@ void frmEdit::changed(EditorControl& control) {
     if (&control == &chkEditPaths) {
         ini_.WriteProgramSetting("EditWin", "chkEditPaths", chkEditPaths.isSet() ? "1" : "0");
     }
+    RefreshNotices(*this, ini_);
     // A finding goes as soon as the user has mended it. The disk is asked only when the job wants other things from it.
     if (timerRunning_) return;
     checkSchedule();

@@ -72,6 +72,7 @@ struct KESTEDIT_EXPORT EditorControl {
     int TabIndex = -1;  ///< -1: not in the tab sequence
     std::string Caption;
     std::string ToolTipText;
+    std::string Notice;  ///< stands beside the control: what is wrong with its content, or worth knowing; mostly empty
     std::vector<std::string> Items;
 
     /// "optExist(2)", or the base name alone.

@@ -22,6 +22,7 @@ constexpr auto properties = std::to_array<ControlProperty>({
     {"Visible",     [](const EditorControl& control) { return flagText(control.Visible); }},
     {"Caption",     [](const EditorControl& control) { return quotedText(control.Caption); }},
     {"ToolTipText", [](const EditorControl& control) { return quotedText(control.ToolTipText); }},
+    {"Notice",      [](const EditorControl& control) { return quotedText(control.Notice); }},
     {"TabIndex",    [](const EditorControl& control) { return std::to_string(control.TabIndex); }},
     {"TabStop",     [](const EditorControl& control) { return flagText(control.TabStop); }},
     {"Items",       [](const EditorControl& control) { return listText(control.Items); }},

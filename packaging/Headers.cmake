@@ -25,7 +25,6 @@ set(public_headers
   form/FormModel.h
   editor/ImageMeaning.h
   editor/JobFolders.h
-  editor/PatternHint.h
   editor/dlgNewFolder.h
   editor/frmEdit.h
   i18n/Texts.h

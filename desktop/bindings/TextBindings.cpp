@@ -12,7 +12,6 @@
 #include "desktop/widgets/NoticeLabel.h"
 #include "desktop/widgets/PasswordEdit.h"
 #include "desktop/widgets/PathEdit.h"
-#include "editor/PatternHint.h"
 #include "i18n/Texts.h"
 
 namespace kestedit {
@@ -63,14 +62,14 @@ class LineBinding : public Binding {
   private:
     void showNotice() {
         if (!notice_) return;
-        const QString problem = toQt(patternProblem(gate().form(), control(), texts()).value_or(std::string{}));
-        if (notice_->text() != problem) notice_->setText(problem);
-        notice_->setVisible(!problem.isEmpty());
-        line_.setAccessibleDescription(problem);
+        const QString notice = toQt(control().Notice);
+        if (notice_->text() != notice) notice_->setText(notice);
+        notice_->setVisible(!notice.isEmpty());
+        line_.setAccessibleDescription(notice);
     }
 
     QLineEdit& line_;
-    NoticeLabel* const notice_;  // says what is wrong with the pattern; null for most fields
+    NoticeLabel* const notice_;  // shows the control's Notice; null for most fields
     bool first_ = true;
     bool userChanged_ = false;
 };
