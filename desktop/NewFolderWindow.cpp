@@ -41,6 +41,12 @@ NewFolderWindow::NewFolderWindow(dlgNewFolder& dialog, QWidget* parent)
     name_->setAccessibleName(toQt(dialog.Caption));
     name_->setMinimumWidth(fontMetrics().averageCharWidth() * roomForName);
 
+    auto* folder = new QLabel(toQt(dialog.lblFolder.Caption), this);
+    folder->setObjectName(QStringLiteral("lblFolder"));
+    folder->setTextFormat(Qt::PlainText);
+    folder->setWordWrap(true);
+    name_->setAccessibleDescription(folder->text());
+
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(create_);
@@ -49,6 +55,7 @@ NewFolderWindow::NewFolderWindow(dlgNewFolder& dialog, QWidget* parent)
     whole->setContentsMargins(16, 16, 16, 16);
     whole->addWidget(caption);
     whole->addWidget(name_);
+    whole->addWidget(folder);
     whole->addSpacing(8);
     whole->addLayout(buttons);
 

@@ -25,12 +25,17 @@ void run(FormModel& form, int /*member*/) {
     (Rules(form), ...);
 }
 
+void ChangeUnZipExisting(FormModel& form, int member) {
+    ApplyUnZipExisting(form, member);
+    MarkDestinationPage(form);
+}
+
 // clang-format off
 constexpr std::array changeRuleRows{
     // the name
     ChangeRule{"dxName",              run<ApplyJobName>},
     // the action
-    ChangeRule{"optAction",           run<ApplyAction, ApplyDestinationPath, ApplyMonitorPath, ApplySourceAttributes,
+    ChangeRule{"optAction",           run<ApplyAction, ApplyDestinationPath, LeaveMissingDestination, ApplyMonitorPath, ApplySourceAttributes,
                                           ApplyDestAttributes, ShowCompressionFrames, ShowDestinationFrames>},
     ChangeRule{"chkPreview",          run<ApplyPreview>},
     ChangeRule{"chkOnlyCompare",      run<ApplyOnlyCompare>},
@@ -87,15 +92,21 @@ constexpr std::array changeRuleRows{
     ChangeRule{"chkZipDelComp",       run<ApplyZipDelComp>},
     ChangeRule{"chkZipDelDeComp",     run<ApplyZipDelDeComp>},
     ChangeRule{"dxZipGrade",          run<PickCompressionLevel>},
-    ChangeRule{"optUnZip",            ApplyUnZipExisting},
+    ChangeRule{"optUnZip",            ChangeUnZipExisting},
     // destination
-    ChangeRule{"chkFStruct",          run<ApplyFolderStructure>},
+    ChangeRule{"chkFStruct",          run<ApplyFolderStructure, MarkDestinationPage>},
     ChangeRule{"optExist",            run<ApplyExist, MarkDestinationPage>},
-    ChangeRule{"dxRenamer",           run<ApplyRenameText>},
-    ChangeRule{"dxPickRenamer",       run<ApplyRenameScheme>},
-    ChangeRule{"dxPickExistSelecter", run<ApplyExist>},
-    ChangeRule{"optSyncExist",        ApplySyncExist},
-    ChangeRule{"optSyncStart",        run<ApplySyncStart>},
+    ChangeRule{"dxRenamer",           run<ApplyRenameText, MarkDestinationPage>},
+    ChangeRule{"dxPickRenamer",       run<ApplyRenameScheme, MarkDestinationPage>},
+    ChangeRule{"optRenameSelect",     run<MarkDestinationPage>},
+    ChangeRule{"chkDelSourceRename",  run<MarkDestinationPage>},
+    ChangeRule{"dxPickExistSelecter", run<ApplyExist, MarkDestinationPage>},
+    ChangeRule{"optExtFileTime",      run<MarkDestinationPage>},
+    ChangeRule{"chkDelTypeSource",    run<MarkDestinationPage>},
+    ChangeRule{"chkDelEFolSource",    run<MarkDestinationPage>},
+    ChangeRule{"optSyncExist",        run<ApplyExist, MarkDestinationPage>},
+    ChangeRule{"optSyncStart",        run<ApplySyncStart, MarkDestinationPage>},
+    ChangeRule{"chkSyncDelete",       run<MarkDestinationPage>},
 };
 // clang-format on
 

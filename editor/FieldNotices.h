@@ -6,7 +6,8 @@
 
 namespace kestedit {
 
-/// Sets Notice of every control that has a rule for one, from what the form holds now.
-void RefreshNotices(FormModel& form, const modIniHandler& texts);
+/// Sets Notice of every control from what the form holds now. `typing` is the field that the user is typing into, or
+/// null: what is missing or unfinished there is not told before the field is left, unless it was told already.
+void RefreshNotices(FormModel& form, const modIniHandler& texts, const EditorControl* typing);
 
 }  // namespace kestedit

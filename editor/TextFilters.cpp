@@ -50,6 +50,7 @@ void FilterFieldText(FormModel& form, EditorControl& field) {
     if (filter == filters.end()) return;
     const bool lifted = filter->freeWhen && (form.*filter->freeWhen).isSet();
     const std::string typed = field.text();
+    if (!(form.*filter->flag)) form.DroppedChars.erase(&field);
     std::string kept;
     for (std::string_view rest = typed; !rest.empty();) {
         const Character character = takeCharacter(rest);
@@ -57,6 +58,8 @@ void FilterFieldText(FormModel& form, EditorControl& field) {
             kept += character.bytes;
         } else {
             form.*filter->flag = true;
+            std::string& dropped = form.DroppedChars[&field];
+            if (dropped.find(character.bytes) == std::string::npos) dropped += character.bytes;
         }
     }
     field.EditValue = std::move(kept);

@@ -5,9 +5,9 @@
 
 namespace kestedit {
 
-/// Drops the characters that the field does not accept and raises its flag when one was dropped; fields without a
-/// filter stay as they are. A flag never comes down here. The comparison ignores the case of every letter, whatever the
-/// process's locale is.
+/// Drops the characters that the field does not accept, notes them in DroppedChars and raises the field's flag; fields
+/// without a filter stay as they are. A flag never comes down here. The comparison ignores the case of every letter,
+/// whatever the process's locale is.
 void FilterFieldText(FormModel& form, EditorControl& field);
 
 }  // namespace kestedit

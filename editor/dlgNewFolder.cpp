@@ -9,6 +9,7 @@
 #include "editor/LineBreaks.h"
 #include "editor/frmEdit.h"
 #include "i18n/Texts.h"
+#include "platform/Text.h"
 
 namespace kestedit {
 
@@ -34,13 +35,6 @@ const Service* serviceOf(int mode) {
     return mode >= 0 && index < services.size() ? &services[index] : nullptr;
 }
 
-std::size_t characterCount(std::string_view text) {
-    std::size_t count = 0;
-    for (const char byte : text)
-        count += (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U ? 1U : 0U;
-    return count;
-}
-
 }  // namespace
 
 dlgNewFolder::dlgNewFolder(FormModel& form, const modIniHandler& texts, std::string_view title, Platform& platform)
@@ -51,6 +45,10 @@ void dlgNewFolder::Load() {
         const std::array suffixes{form_.lblSource[0].Caption, form_.lblDest[0].Caption,
                                   textOf(texts_, TextId::newMonitoredFolder)};
         Caption = textOf(texts_, TextId::newFolder) + " - " + suffixes.at(static_cast<std::size_t>(form_.fMode));
+    }
+    if (const EditorControl* const field = pathField()) {
+        folder_ = platform_.files.Absolute(field->text());
+        lblFolder.Caption = textOf(texts_, TextId::newFolderIn, {folder_});
     }
     cmdCreate.Caption = textOf(texts_, TextId::createButton);
     cmdCancel.Caption = textOf(texts_, TextId::cancelButton);
@@ -94,7 +92,7 @@ void dlgNewFolder::create() {
     EditorControl* const field = pathField();
     if (!field) return;
     const std::string name = dxTextEdit1.text();
-    const std::string path = platform_.files.BuildPath(field->text(), name);
+    const std::string path = platform_.files.BuildPath(folder_, name);
     try {
         if (platform_.files.FolderExists(path)) return reportExisting();
         if (name.find('/') != std::string::npos) {

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "form/FormModel.h"
@@ -20,6 +21,9 @@ class KESTEDIT_EXPORT dlgNewFolder : public ControlRegistry {
     dlgNewFolder(FormModel& form, const modIniHandler& texts, std::string_view title, Platform& platform);
 
     EditorControl fraNew{*this, ControlKind::frame, "fraNew"};
+    /// Says in which folder the new one will stand: that of the path field, as an absolute path whatever the field
+    /// holds.
+    EditorControl lblFolder{*this, ControlKind::label, "lblFolder", fraNew};
     EditorControl dxTextEdit1{*this, ControlKind::text, "dxTextEdit1", fraNew, ""};
     EditorControl cmdCreate{*this, ControlKind::command, "cmdCreate"};
     EditorControl cmdCancel{*this, ControlKind::command, "cmdCancel"};
@@ -47,6 +51,7 @@ class KESTEDIT_EXPORT dlgNewFolder : public ControlRegistry {
     const modIniHandler& texts_;
     std::string_view title_;
     Platform& platform_;
+    std::string folder_;  ///< where the new folder will stand
     bool open_ = true;
 };
 

@@ -80,7 +80,7 @@ void frmEdit::Load() {
     showPage(0);
     focus(dxName);
     SetTabOrder(*this);
-    RefreshNotices(*this, ini_);
+    refreshNotices();
     loading_ = false;
 }
 

@@ -66,7 +66,9 @@ class KESTEDIT_EXPORT frmEdit : public FormModel {
     /// A state or a choice that holds already is no change, and no rule runs.
     void onCheckClicked(EditorControl& control, int state);
     void onOptionChosen(EditorControl& member);
-    /// Refused when `text` is not an entry of the list.
+    /// Refused when the list has no entry at `position`.
+    void onItemPicked(EditorControl& control, int position);
+    /// The same by the entry's text, the first of equal ones; refused when `text` is not an entry of the list.
     void onItemPicked(EditorControl& control, std::string_view text);
     /// Nothing empties the editor.
     void onDateChosen(EditorControl& control, std::optional<Date> date);
@@ -103,9 +105,12 @@ class KESTEDIT_EXPORT frmEdit : public FormModel {
     void applyNewJob();
     // events
     void requireReachable(const EditorControl& control, std::initializer_list<ControlKind> kinds) const;
-    void changed(EditorControl& control);
+    /// `typing`: the user may still be in the middle of it.
+    void changed(EditorControl& control, bool typing = false);
+    void refreshNotices();
     void showPage(int position);
     void focus(EditorControl& control);
+    void open(EditorControl& control);
     void checkPaths();
     void showPathFinding(std::optional<PathFinding> finding);
     void checkSchedule();
@@ -130,7 +135,8 @@ class KESTEDIT_EXPORT frmEdit : public FormModel {
     bool loading_ = true;
     bool open_ = true;
     bool timerRunning_ = true;
-    JobFolders checkedFolders_;  ///< those of the last check, which may still be under way
+    EditorControl* typing_ = nullptr;  ///< the field that the user is typing into; not owned
+    JobFolders checkedFolders_;        ///< those of the last check, which may still be under way
     Background background_;
     bool editPaths_ = true;
 };

@@ -1,6 +1,7 @@
 // The handlers of frmEdit: each checks that a user could cause the event, changes the control, and runs its rule.
 #include <algorithm>
 #include <string>
+#include <utility>
 
 #include "editor/ChangeRules.h"
 #include "editor/FieldNotices.h"
@@ -43,6 +44,16 @@ void settleDuration(FormModel& form, const EditorControl& stepped, bool up) {
     }
 }
 
+// The user's own choice takes the place of what the job held: for the whole group, for the whole duration.
+void forgetUnread(FormModel& form, EditorControl& control) {
+    EditorControl& holder = control.Kind == ControlKind::option ? *form.group(control.Base).front() : control;
+    holder.Unread.reset();
+    for (const Duration& duration : durations) {
+        const bool isPart = &control == &(form.*duration.minutes) || &control == &(form.*duration.hours);
+        if (isPart) (form.*duration.days).Unread.reset();
+    }
+}
+
 bool isDays(const FormModel& form, const EditorControl& control) {
     return std::ranges::any_of(durations, [&](const Duration& row) { return &(form.*row.days) == &control; });
 }
@@ -65,16 +76,22 @@ void frmEdit::requireReachable(const EditorControl& control, std::initializer_li
     if (const auto reason = obstacle(control)) throw EventRefused(*reason);
 }
 
-void frmEdit::changed(EditorControl& control) {
+void frmEdit::changed(EditorControl& control, bool typing) {
+    typing_ = typing ? &control : nullptr;
+    forgetUnread(*this, control);
     RunChangeRule(*this, control);
     if (&control == &chkEditPaths) {
         ini_.WriteProgramSetting("EditWin", "chkEditPaths", chkEditPaths.isSet() ? "1" : "0");
     }
-    RefreshNotices(*this, ini_);
+    refreshNotices();
     // A finding goes as soon as the user has mended it. The disk is asked only when the job wants other things from it.
     if (timerRunning_) return;
     checkSchedule();
     if (DemandsOnFolders(*this) != checkedFolders_.demands) checkPaths();
+}
+
+void frmEdit::refreshNotices() {
+    RefreshNotices(*this, ini_, typing_);
 }
 
 void frmEdit::onTextTyped(EditorControl& control, std::string_view text) {
@@ -83,10 +100,12 @@ void frmEdit::onTextTyped(EditorControl& control, std::string_view text) {
     if (!platform_.ini.codePage().encode(text)) throw EventRefused(UnstorableText(ini_, text));
     control.EditValue = control.Kind == ControlKind::memo ? windowsLines(text) : singleLine(text);
     FilterFieldText(*this, control);
-    changed(control);
+    changed(control, true);
 }
 
 void frmEdit::onEditingFinished(EditorControl& control) {
+    typing_ = nullptr;
+    refreshNotices();
     if (control.Kind == ControlKind::path && &control != &dxExecPath) checkPaths();
 }
 
@@ -108,10 +127,19 @@ void frmEdit::onOptionChosen(EditorControl& member) {
 
 void frmEdit::onItemPicked(EditorControl& control, std::string_view text) {
     requireReachable(control, {ControlKind::pick});
-    if (std::ranges::find(control.Items, text) == control.Items.end()) {
+    const auto entry = std::ranges::find(control.Items, text);
+    if (entry == control.Items.end()) {
         throw EventRefused(control.Name() + " has no entry \"" + std::string{text} + "\"");
     }
-    control.EditValue = std::string{text};
+    onItemPicked(control, static_cast<int>(entry - control.Items.begin()));
+}
+
+void frmEdit::onItemPicked(EditorControl& control, int position) {
+    requireReachable(control, {ControlKind::pick});
+    if (position < 0 || std::cmp_greater_equal(position, control.Items.size())) {
+        throw EventRefused(control.Name() + " has no entry " + std::to_string(position));
+    }
+    control.pick(position);
     changed(control);
 }
 
@@ -139,7 +167,7 @@ void frmEdit::onNumberTyped(EditorControl& control, std::optional<std::int64_t> 
                            std::to_string(range.most));
     }
     control.EditValue = number ? Value{*number} : Value{};
-    changed(control);
+    changed(control, true);
 }
 
 void frmEdit::onSpin(EditorControl& control, bool up) {
@@ -202,6 +230,7 @@ void frmEdit::onMousePressed(EditorControl& control, int button) {
 
 void frmEdit::onFocused(EditorControl& control) {
     focus(control);
+    if (typing_ && typing_ != &control) onEditingFinished(*typing_);
 }
 
 void frmEdit::onTimer() {

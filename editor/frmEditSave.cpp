@@ -1,7 +1,8 @@
 // Saving: the checks of the form, the job's file name, the questions before a file is lost, and the write.
-#include <array>
 #include <string>
 
+#include "editor/JobName.h"
+#include "editor/RequiredFields.h"
 #include "editor/frmEdit.h"
 #include "editor/modCompNodes.h"
 #include "i18n/Catalogue.h"
@@ -11,45 +12,6 @@
 namespace kestedit {
 
 namespace {
-
-// What a job's name must not contain, since it becomes a file name. The slash stands here three times.
-constexpr std::string_view invalidNameChars = "<>|/\\//:´~^¨¦`*?\"";
-
-/// A field that a chosen option needs: it fails when it is empty or a character was dropped from it.
-struct RequiredField {
-    EditorControl FormModel::*field;
-    bool (*active)(const FormModel& form);
-    bool FormModel::*flag;
-    bool FormModel::*clears;  ///< the flag that comes down with the report
-    std::size_t message;
-};
-
-// Whether a pattern is asked for. A group without a choice, as in a mode that loads nothing, takes everything.
-bool asksForPattern(const ControlArray<3>& group) {
-    return group.selected().value_or(0) != 0;
-}
-
-// Reporting the folder pattern clears the file pattern's flag, deliberately, so that its own report comes back until a
-// regular expression is allowed. Test: SaveJob.FolderPatternIsReportedAgainUntilRegEx.
-// clang-format off
-constexpr std::array requiredFields{
-    RequiredField{&FormModel::dxRenamer,     [](const FormModel& form) { return form.optExist[Existing::rename].isSet(); },
-                  &FormModel::InvalidRenamerChars,     &FormModel::InvalidRenamerChars,  catalogue::invalidRenamer},
-    RequiredField{&FormModel::dxFileName,    [](const FormModel& form) { return asksForPattern(form.optFileMatch); },
-                  &FormModel::InvalidFileNameChars,    &FormModel::InvalidFileNameChars, catalogue::invalidFileName},
-    RequiredField{&FormModel::dxFolderMatch, [](const FormModel& form) { return asksForPattern(form.optFolderMatch); },
-                  &FormModel::InvalidFolderMatchChars, &FormModel::InvalidFileNameChars, catalogue::invalidFolderMatch},
-    RequiredField{&FormModel::dxExt,         [](const FormModel& form) { return asksForPattern(form.optExt); },
-                  &FormModel::InvalidExtChars,         &FormModel::InvalidExtChars,      catalogue::invalidExt},
-};
-// clang-format on
-
-bool hasInvalidNameChar(std::string_view name) {
-    for (std::string_view rest = name; !rest.empty();) {
-        if (invalidNameChars.find(takeCharacter(rest).bytes) != std::string_view::npos) return true;
-    }
-    return false;
-}
 
 std::string joined(std::initializer_list<std::string_view> lines) {
     std::string text;
@@ -67,16 +29,20 @@ void frmEdit::reportInvalid(EditorControl& control, std::size_t message) {
         {TextCatalogue[catalogue::validationTitle],
          joined({TextCatalogue[message], TextCatalogue[catalogue::filteredOut], TextCatalogue[catalogue::pleaseCheck]}),
          Buttons::ok, MessageIcon::none});
+    open(control);
+}
+
+void frmEdit::open(EditorControl& control) {
     if (const auto position = nodeOfControl(*this, control)) showPage(*position);
     focus(control);
 }
 
 bool frmEdit::validate() {
-    if (hasInvalidNameChar(dxName.text())) {
+    if (!invalidNameCharacters(dxName.text()).empty()) {
         reportInvalid(dxName, catalogue::invalidName);
         return false;
     }
-    for (const RequiredField& row : requiredFields) {
+    for (const RequiredField& row : requiredFields()) {
         // What the present choices take away, the user could not fill in.
         if (!row.active(*this) || obstacle(this->*row.field)) continue;
         if (!(this->*row.field).isEmpty() && !(this->*row.flag)) continue;
@@ -88,6 +54,8 @@ bool frmEdit::validate() {
 }
 
 void frmEdit::save() {
+    typing_ = nullptr;
+    refreshNotices();
     if (!validate()) return;
     const std::string name{trimBlanks(dxName.text())};
     if (values_.Mode == "New") return saveNew(name);
@@ -97,8 +65,8 @@ void frmEdit::save() {
 
 void frmEdit::saveNew(const std::string& name) {
     if (name.empty()) {
-        (void)askForName(Buttons::cancelRetryContinue, TextId::nameMissing);
-        return;
+        (void)askForName(Buttons::ok, TextId::nameMissing);
+        return open(dxName);
     }
     const std::string file = jobPath(name);
     if (platform_.files.FileExists(file) && !confirmOverwrite(TextId::overwriteNew)) {
@@ -115,8 +83,7 @@ void frmEdit::saveEdited(const std::string& name) {
             dxName.EditValue = LoadedName;
             changed(dxName);
         }
-        focus(dxName);
-        return;
+        return open(dxName);
     }
     if (name == LoadedName) {
         jobs_.write(values_.JobFile, SaveValues(*this, platform_.dates, platform_.clock.now()),
@@ -127,7 +94,7 @@ void frmEdit::saveEdited(const std::string& name) {
     if (platform_.files.FileExists(file)) {
         if (!confirmOverwrite(TextId::overwriteEdited)) return;
         jobs_.write(file, SaveValues(*this, platform_.dates, platform_.clock.now()), JobStore::Write::create);
-    } else if (hasInvalidNameChar(LoadedName)) {
+    } else if (!invalidNameCharacters(LoadedName).empty()) {
         // No save gave the old job this name, and it could lead to a file elsewhere: that one stays.
         jobs_.write(file, SaveValues(*this, platform_.dates, platform_.clock.now()), JobStore::Write::create);
     } else {

@@ -50,6 +50,15 @@ std::string EditorControl::Name() const {
     return name;
 }
 
+std::string EditorControl::plainCaption() const {
+    std::string plain;
+    for (std::size_t i = 0; i < Caption.size(); ++i) {
+        if (Caption[i] == '&' && ++i == Caption.size()) break;
+        plain += Caption[i];
+    }
+    return plain;
+}
+
 std::string EditorControl::text() const {
     const auto* held = std::get_if<std::string>(&EditValue);
     return held ? *held : std::string{};
@@ -76,11 +85,24 @@ bool EditorControl::isEmpty() const {
 }
 
 std::optional<int> EditorControl::itemIndex() const {
-    const auto* held = std::get_if<std::string>(&EditValue);
-    if (!held) return std::nullopt;
-    const auto found = std::ranges::find(Items, *held);
-    if (found == Items.end()) return std::nullopt;
-    return static_cast<int>(found - Items.begin());
+    const bool known = ItemIndex >= 0 && std::cmp_less(ItemIndex, Items.size());
+    return known ? std::optional{static_cast<int>(ItemIndex)} : std::nullopt;
+}
+
+void EditorControl::pick(std::int64_t position) {
+    ItemIndex = position;
+    const auto known = itemIndex();
+    EditValue = known ? Items[static_cast<std::size_t>(*known)] : std::string{};
+}
+
+std::vector<std::string> EditorControl::distinctItems() const {
+    std::vector<std::string> distinct;
+    for (const std::string& item : Items) {
+        const std::string number = std::to_string(distinct.size() + 1);
+        const bool alone = std::ranges::count(Items, item) == 1;
+        distinct.push_back(item.empty() ? number : alone ? item : number + ": " + item);
+    }
+    return distinct;
 }
 
 // Position of the first control of that name, or the number of controls. The members of an array stand together.

@@ -74,9 +74,18 @@ struct KESTEDIT_EXPORT EditorControl {
     std::string ToolTipText;
     std::string Notice;  ///< stands beside the control: what is wrong with its content, or worth knowing; mostly empty
     std::vector<std::string> Items;
+    /// Of a pick list: position of the entry that was loaded or picked, whatever its text is; -1 for none. May lie
+    /// behind the last entry, when a job was made by an editor with a longer list.
+    std::int64_t ItemIndex = -1;
+    /// What the job stores for this control and the control cannot show ("7" for a group of three, notes that are too
+    /// long). A save writes it back for as long as the user has not changed the control. Of a group, that of member 0.
+    std::optional<std::string> Unread;
 
     /// "optExist(2)", or the base name alone.
     [[nodiscard]] std::string Name() const;
+
+    /// The caption without its mnemonic: "&Save" reads "Save", "A && B" reads "A & B".
+    [[nodiscard]] std::string plainCaption() const;
 
     [[nodiscard]] bool isSet() const { return State == 1; }
     /// Text of a text control; empty when it holds none.
@@ -87,8 +96,12 @@ struct KESTEDIT_EXPORT EditorControl {
     [[nodiscard]] std::optional<TimeOfDay> time() const;
     /// The empty mark: no value at all, or a text of length 0.
     [[nodiscard]] bool isEmpty() const;
-    /// Position in Items of the entry that EditValue names; the first of equal entries; nothing when none is.
+    /// ItemIndex when the list has such an entry.
     [[nodiscard]] std::optional<int> itemIndex() const;
+    /// Selects an entry by its position: ItemIndex and, as its text, EditValue.
+    void pick(std::int64_t position);
+    /// Items as a person can tell them apart: one that is empty or stands there twice has its number in front.
+    [[nodiscard]] std::vector<std::string> distinctItems() const;
 };
 
 /// The controls of one form, in the order of their declaration.

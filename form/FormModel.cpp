@@ -23,6 +23,8 @@ FormModel::FormModel() {
     dxMonWatch.Items.resize(watchedChanges);
     dxPickRenamer.Items.resize(3);
     dxPickExistSelecter.Items.resize(replaceIfCount);
+    for (EditorControl* list : {&dxIntWeekDay, &dxMonWatch, &dxPickRenamer, &dxPickExistSelecter})
+        list->pick(0);
     fraSync.Visible = false;
     // Pages appear with their node, findings when there is one.
     for (EditorControl* control : controls()) {

@@ -268,10 +268,13 @@ struct KESTEDIT_EXPORT FormModel : ControlRegistry {
     bool InvalidFileNameChars = false;
     bool InvalidFolderMatchChars = false;
     bool InvalidExtChars = false;
+    /// What the filter of a field has dropped, each character once, for the notice beside the field.
+    std::map<const EditorControl*, std::string> DroppedChars;
     bool DateFormatChanged = false;
     int HandledUnZipItem = -1;  ///< the optUnZip member whose rule ran last
     int fMode = 0;              ///< path field that the new-folder dialog serves: source, destination, monitored folder
-    std::string LoadedName;     ///< job name as it was loaded; empty for a new job
+    std::string StoredNodeIcon;  ///< the action's image as the job holds it; stands where the view has no node for it
+    std::string LoadedName;      ///< job name as it was loaded; empty for a new job
 
     std::vector<std::string> TextCatalogue = std::vector<std::string>(catalogueSize);
     std::array<std::string, replaceIfCount> ReplaceIfTexts;

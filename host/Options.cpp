@@ -9,6 +9,7 @@
 #include <string>
 #include <utility>
 
+#include "editor/modCompNodes.h"
 #include "host/IsoTime.h"
 #include "host/ScriptEvents.h"
 #include "host/ScriptText.h"
@@ -85,6 +86,7 @@ class CommandLine {
     void addScriptCommand();
     void addIniCommands();
     void addEditorOptions(CLI::App& command);
+    [[nodiscard]] OpenWindow openWindow() const;
     static void addCodePage(CLI::App& command, int& page);
 
     CLI::App app_{"Creates and edits jobs.", "kestedit"};
@@ -126,7 +128,7 @@ void CommandLine::addWindowCommands() {
     CLI::App* create = app_.add_subcommand("new", "Opens the editor on a new job");
     addEditorOptions(*create);
     create->footer(windowExamples);
-    create->callback([this] { chosen_ = [this] { return OpenWindow{editor_}; }; });
+    create->callback([this] { chosen_ = [this] { return openWindow(); }; });
 
     CLI::App* edit = app_.add_subcommand("edit", "Opens the editor on a job");
     addEditorOptions(*edit);
@@ -134,8 +136,15 @@ void CommandLine::addWindowCommands() {
     edit->add_option("FILE", jobFile_, "The job")->required();
     edit->callback([this] {
         editor_.jobFile = jobFile_;
-        chosen_ = [this] { return OpenWindow{editor_}; };
+        chosen_ = [this] { return openWindow(); };
     });
+}
+
+// A script may open the editor under any level, as a host may; a person would see an empty window.
+OpenWindow CommandLine::openWindow() const {
+    if (viewNodes(std::to_string(editor_.view)).empty())
+        throw UsageError("--view: " + std::to_string(editor_.view) + " is no view level: 4, 9, 15 or 23");
+    return {editor_};
 }
 
 void CommandLine::addScriptCommand() {

@@ -1,6 +1,7 @@
 #include "host/ScriptEvents.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "host/PropertyPrinter.h"
 #include "host/ScriptDriver.h"
@@ -27,6 +28,11 @@ void replaceText(ScriptDriver& driver, EditorControl& control, const std::string
     driver.form().onEditingFinished(control);
 }
 
+void typeNumber(ScriptDriver& driver, EditorControl& control, std::optional<std::int64_t> number) {
+    driver.form().onNumberTyped(control, number);
+    driver.form().onEditingFinished(control);
+}
+
 void empty(ScriptDriver& driver, EditorControl& control) {
     switch (control.Kind) {
         case ControlKind::date:
@@ -35,7 +41,7 @@ void empty(ScriptDriver& driver, EditorControl& control) {
             return driver.form().onTimeChosen(control, std::nullopt);
         case ControlKind::number:
         case ControlKind::spin:
-            return driver.form().onNumberTyped(control, std::nullopt);
+            return typeNumber(driver, control, std::nullopt);
         case ControlKind::pick:
             return driver.form().onItemPicked(control, "");
         default:
@@ -86,7 +92,7 @@ constexpr auto events = std::to_array<ScriptEvent>({
      [](Driver& d, const Arguments& a) { d.form().onTimeChosen(d.control(textOf(a[0])), std::get<TimeOfDay>(a[1])); },
      "chooses a time of day"},
     {"number",         {&control, &number}, Role::formEvent,
-     [](Driver& d, const Arguments& a) { d.form().onNumberTyped(d.control(textOf(a[0])), typedNumber(a[1])); },
+     [](Driver& d, const Arguments& a) { typeNumber(d, d.control(textOf(a[0])), typedNumber(a[1])); },
      "types a number"},
     {"spin",           {&control, &direction}, Role::formEvent,
      [](Driver& d, const Arguments& a) { d.form().onSpin(d.control(textOf(a[0])), std::get<bool>(a[1])); },

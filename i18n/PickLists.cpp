@@ -7,9 +7,8 @@
 namespace kestedit {
 
 void ReplaceItems(EditorControl& list, std::vector<std::string> entries) {
-    const auto selected = static_cast<std::size_t>(list.itemIndex().value_or(0));
     list.Items = std::move(entries);
-    list.EditValue = selected < list.Items.size() ? list.Items[selected] : std::string{};
+    list.pick(list.ItemIndex);
 }
 
 void FillPickLists(FormModel& form) {

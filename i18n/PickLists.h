@@ -8,8 +8,7 @@
 
 namespace kestedit {
 
-/// Gives `list` new entries. The selection stays at its position, the first one when none was selected; a position
-/// behind the last entry leaves the list empty.
+/// Gives `list` new entries. The selection stays at its position.
 void ReplaceItems(EditorControl& list, std::vector<std::string> entries);
 
 /// Fills dxPickRenamer and dxPickExistSelecter from the catalogue, wherever its texts came from.

@@ -46,6 +46,7 @@ constexpr auto rows = std::to_array<TextRow>({
     {cancelButton,           "All",            "t0",   "&Abbrechen"},
     {folderExists,           "dlgNewFolder",   "t2",   "Ordner existiert schon."},
     {newMonitoredFolder,     "dlgNewFolder",   "t3",   "Neuer Ordner"},
+    {newFolderIn,            "dlgNewFolder",   "t4",   "Wird angelegt in: %1", "Will be created in: %1"},
     {sourceMissing,          "Findings",       "t0",   "Das Quellverzeichnis existiert nicht.", "The source folder does not exist."},
     {sourceUnreadable,       "Findings",       "t1",   "Das Quellverzeichnis kann nicht gelesen werden.", "The source folder cannot be read."},
     {destinationMissing,     "Findings",       "t2",   "Das Zielverzeichnis existiert nicht.", "The destination folder does not exist."},
@@ -64,6 +65,29 @@ constexpr auto rows = std::to_array<TextRow>({
     {intervalZero,           "Findings",       "t14",  "Zwischen zwei Läufen muss mindestens eine Minute liegen.", "There must be at least one minute between two runs."},
     {unstorable,             "Findings",       "t20",  "Der Text enthält Zeichen, die die Auftragsdatei nicht speichern kann: %1", "The text contains characters that the job file cannot hold: %1"},
     {badRegEx,               "Findings",       "t21",  "Kein gültiger regulärer Ausdruck", "Not a valid regular expression"},
+    {unreadValue,             "Findings",       "t22",  "Der Auftrag enthält hier \"%1\", was dieser Editor nicht zeigen kann. Es bleibt, bis Sie etwas anderes wählen.", "The job holds \"%1\" here, which this editor cannot show. It stays until you choose something else."},
+    {notesRoom,               "Findings",       "t23",  "Noch frei: %1 von 255 Zeichen", "Room left: %1 of 255 characters"},
+    {notesTooLong,            "Findings",       "t24",  "%1 Zeichen zu viel: was über 255 hinausgeht, wird gespeichert, aber nicht wieder gezeigt.", "%1 characters too many: what goes beyond 255 is stored, but not shown again."},
+    {notesCut,                "Findings",       "t25",  "Die gespeicherten Notizen sind länger als hier gezeigt. Der Rest bleibt, solange Sie die Notizen nicht ändern.", "The stored notes are longer than shown here. The rest stays as long as you do not change the notes."},
+    {sizeMissing,             "Findings",       "t26",  "Ohne eine Grösse werden Dateien jeder Grösse genommen.", "Without a size, files of any size are taken."},
+    {datesReversed,           "Findings",       "t27",  "Das erste Datum liegt hinter dem letzten: keine Datei passt.", "The first date lies behind the last one: no file matches."},
+    {ageZero,                 "Findings",       "t28",  "Das Alter ist 0. Geben Sie mindestens eine Minute an.", "The age is 0. Give at least one minute."},
+    {timeMissing,             "Findings",       "t29",  "Es ist keine Uhrzeit angegeben.", "No time of day is given."},
+    {monthDayMissing,         "Findings",       "t30",  "Es ist kein Tag des Monats angegeben.", "No day of the month is given."},
+    {programMissing,          "Findings",       "t31",  "Es ist kein Programm angegeben.", "No program is given."},
+    {outOfRange,              "Findings",       "t32",  "%1 liegt nicht zwischen %2 und %3.", "%1 does not lie between %2 and %3."},
+    {freeSpaceRaised,         "Findings",       "t33",  "Weniger als %1 MB lassen sich nicht speichern: gespeichert werden %1.", "Less than %1 MB cannot be stored: %1 are saved."},
+    {dateMissing,             "Findings",       "t34",  "Ohne ein Datum wird das heutige gespeichert.", "Without a date, that of today is saved."},
+    {relativePath,            "Findings",       "t35",  "Dieser Pfad beginnt nicht bei der Wurzel. Wohin er führt, hängt von dem Programm ab, das den Auftrag ausführt.", "This path does not begin at the root. Where it leads depends on the program that runs the job."},
+    {droppedFromExtensions,   "Findings",       "t36",  "Weggelassen: %1   Erlaubt sind die Buchstaben a bis z, ä, ö, ü, Ziffern, Stern, Punkt, Komma und Leerzeichen.", "Left out: %1   Allowed are the letters a to z, ä, ö, ü, digits, asterisk, dot, comma and blank."},
+    {droppedFromRenamer,      "Findings",       "t37",  "Weggelassen: %1   Erlaubt sind die Buchstaben a bis z, ä, ö, ü, Ziffern, Leerzeichen, Unterstrich und Bindestrich.", "Left out: %1   Allowed are the letters a to z, ä, ö, ü, digits, blank, underscore and hyphen."},
+    {droppedFromFileName,     "Findings",       "t38",  "Weggelassen: %1   Kein Dateiname enthält diese Zeichen. Ein regulärer Ausdruck darf sie enthalten.", "Left out: %1   No file name holds these characters. A regular expression may."},
+    {droppedFromFolderMatch,  "Findings",       "t39",  "Weggelassen: %1   Kein Ordnername enthält diese Zeichen, ein regulärer Ausdruck darf sie enthalten. Beim Speichern wird das gemeldet, bis \"%2\" einmal angekreuzt war.", "Left out: %1   No folder name holds these characters, a regular expression may. Saving reports this until \"%2\" has been ticked once."},
+    {textMissing,             "Findings",       "t40",  "Diese Auswahl braucht hier eine Angabe.", "This choice needs an entry here."},
+    {nameInvalid,             "Findings",       "t41",  "Im Namen dürfen diese Zeichen nicht stehen: %1", "A name cannot hold these characters: %1"},
+    {noDestinationToMonitor,  "Findings",       "t42",  "Ein Auftrag, der löscht, hat kein Zielverzeichnis, das überwacht werden könnte.", "A job that deletes has no destination folder that could be monitored."},
+    {actionNotInView,         "Findings",       "t43",  "Der Modus dieses Auftrags ist \"%1\". Diese Ansicht kann ihn nicht zeigen.", "The mode of this job is \"%1\". This view cannot show it."},
+    {scheduleNotInView,       "Findings",       "t44",  "Dieser Auftrag läuft so: %1. Diese Ansicht kann das nicht zeigen.", "This job runs like this: %1. This view cannot show it."},
     {browseButton,           "Window",         "t0",   "Durchsuchen", "Browse"},
     {newFolderButton,        "Window",         "t1",   "Neuen Ordner anlegen", "Create a new folder"},
     {showPassword,           "Window",         "t2",   "Passwort zeigen", "Show password"},
@@ -91,6 +115,23 @@ bool isGerman(const modIniHandler& language) {
     return monday == "Montag";
 }
 
+/// One pass, so that a value which reads "%1" itself stays as it is.
+template <typename Values>
+std::string filledIn(std::string_view text, const Values& values) {
+    std::string filled;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool marked = text[i] == '%' && i + 1 < text.size() && text[i + 1] >= '1';
+        const std::size_t number = marked ? static_cast<std::size_t>(text[i + 1] - '1') : values.size();
+        if (number < values.size()) {
+            filled += *(values.begin() + static_cast<std::ptrdiff_t>(number));
+            ++i;
+        } else {
+            filled += text[i];
+        }
+    }
+    return filled;
+}
+
 }  // namespace
 
 std::string textOf(const modIniHandler& language, TextId id) {
@@ -100,20 +141,11 @@ std::string textOf(const modIniHandler& language, TextId id) {
 }
 
 std::string textOf(const modIniHandler& language, TextId id, std::initializer_list<std::string_view> values) {
-    const std::string text = textOf(language, id);
-    std::string filled;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        // One pass, so that a value which reads "%1" itself stays as it is.
-        const std::size_t place =
-            text[i] == '%' && i + 1 < text.size() ? static_cast<std::size_t>(text[i + 1] - '1') : values.size();
-        if (place < values.size()) {
-            filled += values.begin()[place];
-            ++i;
-        } else {
-            filled += text[i];
-        }
-    }
-    return filled;
+    return filledIn(textOf(language, id), values);
+}
+
+std::string textOf(const modIniHandler& language, TextId id, std::span<const std::string> values) {
+    return filledIn(textOf(language, id), values);
 }
 
 }  // namespace kestedit

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <initializer_list>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -40,6 +41,7 @@ enum class TextId : std::uint8_t {
     cancelButton,
     folderExists,
     newMonitoredFolder,
+    newFolderIn,
     // findings about paths
     sourceMissing,
     sourceUnreadable,
@@ -61,6 +63,29 @@ enum class TextId : std::uint8_t {
     // findings about a field
     unstorable,
     badRegEx,
+    unreadValue,
+    notesRoom,
+    notesTooLong,
+    notesCut,
+    sizeMissing,
+    datesReversed,
+    ageZero,
+    timeMissing,
+    monthDayMissing,
+    programMissing,
+    outOfRange,
+    freeSpaceRaised,
+    dateMissing,
+    relativePath,
+    droppedFromExtensions,
+    droppedFromRenamer,
+    droppedFromFileName,
+    droppedFromFolderMatch,
+    textMissing,
+    nameInvalid,
+    noDestinationToMonitor,
+    actionNotInView,
+    scheduleNotInView,
     // the window
     browseButton,
     newFolderButton,
@@ -83,5 +108,7 @@ enum class TextId : std::uint8_t {
 /// The same with `values` in the places of "%1", "%2" and so on.
 [[nodiscard]] KESTEDIT_EXPORT std::string textOf(const modIniHandler& language, TextId id,
                                                  std::initializer_list<std::string_view> values);
+[[nodiscard]] KESTEDIT_EXPORT std::string textOf(const modIniHandler& language, TextId id,
+                                                 std::span<const std::string> values);
 
 }  // namespace kestedit

@@ -8,6 +8,7 @@
 
 #include "persistence/DurationMinutes.h"
 #include "persistence/JobFormat.h"
+#include "platform/Text.h"
 
 namespace kestedit {
 
@@ -24,26 +25,35 @@ struct Loading {
     [[nodiscard]] std::string field(const JobRow& row) const { return job.field(row.key).value_or(std::string{}); }
 };
 
-// A whole decimal number within the range and nothing else.
+// A whole decimal number within the range, blanks around it allowed, and nothing else.
 std::optional<std::int64_t> numberIn(std::string_view text) {
+    text = trimBlanks(text);
     std::int64_t number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     if (error != std::errc{} || end != text.data() + text.size()) return std::nullopt;
     return number;
 }
 
-void loadState(EditorControl& check, std::string_view text) {
-    const std::int64_t state = numberIn(text).value_or(0);
-    check.State = state == 1 || state == 2 ? static_cast<int>(state) : 0;
+// What the control cannot show is kept for the save.
+void keepUnread(EditorControl& control, const std::string& text, bool shown) {
+    if (!shown && !text.empty()) control.Unread = text;
+}
+
+void loadState(EditorControl& check, const std::string& text) {
+    const std::int64_t state = numberIn(text).value_or(-1);
+    const bool known = state >= 0 && state <= 2;
+    check.State = known ? static_cast<int>(state) : 0;
+    keepUnread(check, text, known);
 }
 
 // An index that the group does not have selects member 0.
-void loadIndex(FormModel& form, std::string_view base, std::string_view text) {
+void loadIndex(FormModel& form, std::string_view base, const std::string& text) {
     const auto group = form.group(base);
-    const std::int64_t index = numberIn(text).value_or(0);
+    const std::int64_t index = numberIn(text).value_or(-1);
     const bool known = index >= 0 && std::cmp_less(index, group.size());
     for (EditorControl* member : group)
         member->State = member->Member == (known ? index : 0) ? 1 : 0;
+    keepUnread(*group.front(), text, known);
 }
 
 void deselect(FormModel& form, std::string_view base) {
@@ -72,11 +82,13 @@ void loadName(const Loading& load, const JobRow& row) {
 void loadNumber(const Loading& load, const JobRow& row) {
     const std::optional<std::string> text = load.job.field(row.key);
     if (!text) return;
-    if (const auto number = numberIn(*text)) {
+    const auto number = numberIn(*text);
+    if (number) {
         load.control(row).EditValue = *number;
     } else if (text->empty()) {
         load.control(row).EditValue = std::monostate{};
     }
+    keepUnread(load.control(row), *text, number.has_value());
 }
 
 void loadDate(const Loading& load, const JobRow& row, Date replacement) {
@@ -86,27 +98,26 @@ void loadDate(const Loading& load, const JobRow& row, Date replacement) {
     load.control(row).EditValue = date.value_or(replacement);
 }
 
-// `position` counts from 0; one that the list does not have picks nothing.
-void pick(EditorControl& list, std::int64_t position) {
-    const bool known = position >= 0 && std::cmp_less(position, list.Items.size());
-    list.EditValue = known ? list.Items[static_cast<std::size_t>(position)] : std::string{};
-}
-
-// The same for positions that count from 1.
-void pickFromOne(const Loading& load, const JobRow& row) {
-    const auto position = numberIn(load.field(row));
-    if (position) pick(load.control(row), std::max<std::int64_t>(*position, 0) - 1);
+// The stored number counts from `first`; a position that the list does not have shows nothing and is kept.
+void loadPick(const Loading& load, const JobRow& row, std::int64_t first) {
+    const std::string text = load.field(row);
+    const auto number = numberIn(text);
+    if (number) load.control(row).pick(*number - first);
+    keepUnread(load.control(row), text, number.has_value());
 }
 
 void loadCompressionLevel(const Loading& load, const JobRow& row) {
     const auto level = numberIn(load.field(row));
-    if (!level || !std::in_range<int>(*level)) return;
+    if (!level || !std::in_range<int>(*level)) return keepUnread(load.control(row), load.field(row), false);
     load.form.CompressionLevel = static_cast<int>(*level);
-    pickFromOne(load, row);
+    loadPick(load, row, 1);
 }
 
 void loadDuration(const Loading& load, const JobRow& row, const DurationEditors& editors) {
-    if (const auto total = numberIn(load.field(row))) showMinutes(editors, *total);
+    const std::string text = load.field(row);
+    const auto total = numberIn(text);
+    if (total) showMinutes(editors, *total);
+    keepUnread(editors.days, text, total.has_value());
 }
 
 // A text that is no time stays in the editor, so that a save gives it back.
@@ -151,20 +162,20 @@ void loadRow(const Loading& load, const JobRow& row) {
         case date:
         case intervalDate:     return loadDate(load, row, load.today);
         case startDate:        return loadDate(load, row, addDays(load.today, -1));
-        case listPosition:     return pick(load.control(row), numberIn(load.field(row)).value_or(0));
+        case listPosition:     return loadPick(load, row, 0);
         case jobName:          return loadName(load, row);
         case renameScheme:
-        case weekDay:          return pickFromOne(load, row);
+        case weekDay:          return loadPick(load, row, 1);
         case compressionLevel: return loadCompressionLevel(load, row);
         case ageMinutes:       return loadDuration(load, row, fileAge(form));
         case interval:         return loadDuration(load, row, runInterval(form));
         case timeOfDay:        return loadTime(form.dxDateTime, load.field(row));
+        case nodeIcon:         form.StoredNodeIcon = load.field(row); return;
         case actionIndex:    // GetAction has loaded it
         case comment:        // comes apart from the record, cut to the size of a text
         case writtenOnly:
         case zero:
         case empty:
-        case nodeIcon:
         case intervalCopy:
         case intervalState:    return;
     }
@@ -188,6 +199,7 @@ void GetValues(FormModel& form, const JobRecord& job, std::string_view comment, 
     for (const JobRow& row : jobFormat())
         loadRow(load, row);
     form.dxComment.EditValue = withLineBreaks(comment);
+    keepUnread(form.dxComment, job.field("Comment").value_or(""), job.field("Comment").value_or("") == comment);
 }
 
 void SetNewJobDefaults(FormModel& form, const LocalTime& now) {

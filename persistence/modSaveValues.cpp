@@ -1,8 +1,6 @@
 #include "persistence/modSaveValues.h"
 
-#include <algorithm>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 
@@ -13,14 +11,6 @@
 namespace kestedit {
 
 namespace {
-
-constexpr std::int64_t leastFreeSpace = 2000;
-
-// Entries of the text catalogue that two pick lists take.
-constexpr std::size_t levelEntries = 6;
-constexpr std::size_t levelCount = 4;
-constexpr std::size_t schemeEntries = 10;
-constexpr std::size_t schemeCount = 3;
 
 // Where the values come from.
 struct Source {
@@ -63,14 +53,8 @@ std::string dateText(const Source& from, const EditorControl& control) {
     return date ? from.dates.text(*date) : std::string{};
 }
 
-std::optional<int> positionOf(std::span<const std::string> entries, std::string_view text) {
-    const auto found = std::ranges::find(entries, text);
-    if (found == entries.end()) return std::nullopt;
-    return static_cast<int>(found - entries.begin());
-}
-
 std::string subfoldersText(FormModel& form) {
-    if (form.chkSubFolder.State == 0) form.chkDelEFol.State = 0;
+    if (form.chkSubFolder.State == 0 && !form.chkSubFolder.Unread) form.chkDelEFol.State = 0;
     return stateText(form.chkSubFolder);
 }
 
@@ -79,23 +63,8 @@ std::string freeSpaceText(EditorControl& space) {
     return numberText(space);
 }
 
-std::optional<std::string> renameSchemeText(const FormModel& form) {
-    const auto entries = std::span{form.TextCatalogue}.subspan(schemeEntries, schemeCount);
-    const auto position = positionOf(entries, form.dxPickRenamer.text());
-    return position ? std::optional{std::to_string(*position + 1)} : std::nullopt;
-}
-
-// The level that the job has goes first: in a language file without these texts all entries are equal. It also stands
-// when the list does not show one of the four, so that a level of another editor survives (SaveTest.CompressionLevel).
-int compressionLevelOf(const FormModel& form) {
-    const auto entries = std::span{form.TextCatalogue}.subspan(levelEntries, levelCount);
-    const std::string shown = form.dxZipGrade.text();
-    const int level = form.CompressionLevel;
-    if (level >= 1 && level <= static_cast<int>(levelCount) && entries[static_cast<std::size_t>(level - 1)] == shown) {
-        return level;
-    }
-    const auto position = positionOf(entries, shown);
-    return position ? *position + 1 : level;
+std::optional<std::string> renameSchemeText(const EditorControl& list) {
+    return list.ItemIndex < 0 ? std::nullopt : std::optional{std::to_string(list.ItemIndex + 1)};
 }
 
 std::string withCarets(std::string_view lines) {
@@ -112,7 +81,7 @@ std::string withCarets(std::string_view lines) {
 std::string actionNodeImage(const FormModel& form) {
     const auto position = form.PageNodeIndex.find(static_cast<int>(Page::mode));
     const auto& nodes = form.Navigation.Nodes;
-    if (position == form.PageNodeIndex.end() || position->second < 0) return {};
+    if (position == form.PageNodeIndex.end() || position->second < 0) return form.StoredNodeIcon;
     const auto node = static_cast<std::size_t>(position->second);
     return node < nodes.size() ? nodes[node].Image : std::string{};
 }
@@ -135,10 +104,22 @@ std::optional<std::string> intervalStateText(const Source& from) {
     return from.dates.text(addDays(from.now.date, -1));
 }
 
+// What the job holds and the row's control cannot show. The forms that follow from other controls are not asked.
+std::optional<std::string> unreadOf(const FormModel& form, const JobRow& row) {
+    using enum ValueForm;
+    const bool follows = (row.form == folderStructure && form.optAction[Action::synchronise].isSet()) ||
+                         (row.form == extensionIndex && form.dxExt.isEmpty()) ||
+                         (row.form == sizeIndex && form.dxSize.isEmpty());
+    if (row.control.empty() || follows) return std::nullopt;
+    const auto& unread = form.at(row.control).Unread;
+    return unread ? std::optional{guarded(*unread)} : std::nullopt;
+}
+
 // Nothing for a row that is left out of the file.
 std::optional<std::string> valueOf(const Source& from, const JobRow& row) {
     using enum ValueForm;
     FormModel& form = from.form;
+    if (auto unread = unreadOf(form, row)) return unread;
     // clang-format off
     switch (row.form) {
         case state:
@@ -151,7 +132,7 @@ std::optional<std::string> valueOf(const Source& from, const JobRow& row) {
         case number:           return numberText(form.at(row.control));
         case date:
         case startDate:        return dateText(from, form.at(row.control));
-        case listPosition:     return std::to_string(form.at(row.control).itemIndex().value_or(-1));
+        case listPosition:     return std::to_string(form.at(row.control).ItemIndex);
         case jobName:          return guarded(std::string{trimBlanks(form.dxName.text())});
         case subfolders:       return subfoldersText(form);
         case folderStructure:  return form.optAction[Action::synchronise].isSet() ? "1" : stateText(form.chkFStruct);
@@ -160,17 +141,17 @@ std::optional<std::string> valueOf(const Source& from, const JobRow& row) {
         case empty:            return "";
         case extensionIndex:   return form.dxExt.isEmpty() ? "0" : indexText(form, row.control).value_or("0");
         case sizeIndex:        return form.dxSize.isEmpty() ? "0" : indexText(form, row.control).value_or("0");
-        case renameScheme:     return renameSchemeText(form);
-        case comment:          return guarded(withCarets(form.dxComment.text()));
+        case renameScheme:     return renameSchemeText(form.dxPickRenamer);
+        case comment:          return guarded(storedComment(form));
         case nodeIcon:         return guarded(actionNodeImage(form));
-        case compressionLevel: return std::to_string(compressionLevelOf(form));
+        case compressionLevel: return std::to_string(form.CompressionLevel);
         case ageMinutes:       return minutesText(fileAge(form));
         case interval:
         case intervalCopy:     return minutesText(runInterval(form));
         case intervalDate:     return from.dates.text(form.dxDate.date().value_or(from.now.date));
         case timeOfDay:        return runTimeText(form.dxDateTime);
         case intervalState:    return intervalStateText(from);
-        case weekDay:          return std::to_string(form.dxIntWeekDay.itemIndex().value_or(-1) + 1);
+        case weekDay:          return std::to_string(form.dxIntWeekDay.ItemIndex + 1);
     }
     // clang-format on
     return std::nullopt;
@@ -181,6 +162,10 @@ bool isNote(ValueForm form) {
 }
 
 }  // namespace
+
+std::string storedComment(const FormModel& form) {
+    return withCarets(form.dxComment.text());
+}
 
 std::vector<JobLine> SaveValues(FormModel& form, const DateFormat& dates, const LocalTime& now, bool skipComment) {
     const Source from{form, dates, now};

@@ -10,6 +10,15 @@
 
 namespace kestedit {
 
+/// The least free space, in MB, that a job can ask for.
+inline constexpr std::int64_t leastFreeSpace = 2000;
+
+/// As many bytes of the notes come back from the file; the rest is stored all the same.
+inline constexpr std::size_t mostShownOfComment = 255;
+
+/// The notes as the line that the file holds: "^" for every line break.
+[[nodiscard]] std::string storedComment(const FormModel& form);
+
 /// All lines of a save, in file order. Corrects the form on the way, so that it shows what was written: folders are not
 /// deleted without the search in subfolders, the free space is raised to 2000, minutes and hours above their range are
 /// carried into hours and days. With `skipComment` the keys "Comment" and "NodeIcon" are left out.

@@ -70,6 +70,11 @@ std::string LocalFileSystem::BuildPath(std::string_view folder, std::string_view
     return path;
 }
 
+std::string LocalFileSystem::Absolute(std::string_view path) const {
+    if (path.starts_with('/')) return std::string(path);
+    return withoutSeparatorAtEnd((fs::current_path() / path).lexically_normal()).string();
+}
+
 std::string LocalFileSystem::GetFileName(std::string_view path) const {
     while (path.ends_with('/'))
         path.remove_suffix(1);

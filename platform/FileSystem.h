@@ -31,6 +31,8 @@ class KESTEDIT_EXPORT FileSystem {
     virtual void CreateFolder(const std::filesystem::path& folder) const = 0;
     /// `folder` and `name` with one separator between them; `name` alone when `folder` is empty.
     [[nodiscard]] virtual std::string BuildPath(std::string_view folder, std::string_view name) const = 0;
+    /// `path` from the root on; one that is relative, or empty, begins at the process's working folder.
+    [[nodiscard]] virtual std::string Absolute(std::string_view path) const = 0;
     [[nodiscard]] virtual std::string GetFileName(std::string_view path) const = 0;
 
     /// Looks at a folder without ever blocking longer than `patience`: a dead network mount must not freeze the editor.
@@ -50,6 +52,7 @@ class KESTEDIT_EXPORT LocalFileSystem : public FileSystem {
     void DeleteFile(const std::filesystem::path& file) const override;
     void CreateFolder(const std::filesystem::path& folder) const override;
     [[nodiscard]] std::string BuildPath(std::string_view folder, std::string_view name) const override;
+    [[nodiscard]] std::string Absolute(std::string_view path) const override;
     [[nodiscard]] std::string GetFileName(std::string_view path) const override;
     [[nodiscard]] FolderStatus inspectFolder(const std::filesystem::path& folder,
                                              std::chrono::milliseconds patience) const override;

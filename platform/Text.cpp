@@ -86,6 +86,13 @@ char32_t lowerCase(char32_t codePoint) {
     return static_cast<char32_t>(towlower_l(static_cast<wint_t>(codePoint), locale));
 }
 
+std::size_t characterCount(std::string_view text) {
+    std::size_t count = 0;
+    for (; !text.empty(); ++count)
+        (void)takeCharacter(text);
+    return count;
+}
+
 std::string_view trimBlanks(std::string_view text) {
     const std::size_t first = text.find_first_not_of(' ');
     if (first == std::string_view::npos) return {};

@@ -1,6 +1,7 @@
 // UTF-8 text by characters, and characters without regard to case, whatever the process's locale is.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -21,6 +22,9 @@ void appendCharacter(std::string& text, char32_t codePoint);
 
 /// The lower-case form by Unicode's simple mapping, or the character itself.
 [[nodiscard]] char32_t lowerCase(char32_t codePoint);
+
+/// How many characters `text` has; a byte that is not UTF-8 counts as one.
+[[nodiscard]] std::size_t characterCount(std::string_view text);
 
 /// `text` without the blanks (U+0020) at both ends.
 [[nodiscard]] std::string_view trimBlanks(std::string_view text);

@@ -37,8 +37,7 @@ class PickBinding final : public ValueBinding<QComboBox> {
         box.setFocusPolicy(Qt::StrongFocus);
         box.setSizeAdjustPolicy(QComboBox::AdjustToContents);
         QObject::connect(&box, &QComboBox::activated, &box, [this](int index) {
-            const std::string entry = this->control().Items.at(static_cast<std::size_t>(index));
-            this->gate().hand([this, &entry](frmEdit& form) { form.onItemPicked(this->control(), entry); });
+            this->gate().hand([this, index](frmEdit& form) { form.onItemPicked(this->control(), index); });
         });
     }
 
@@ -47,7 +46,7 @@ class PickBinding final : public ValueBinding<QComboBox> {
         if (shown_ != control().Items) {
             shown_ = control().Items;
             edit().clear();
-            for (const std::string& entry : shown_)
+            for (const std::string& entry : control().distinctItems())
                 edit().addItem(toQt(entry));
         }
         const int index = control().itemIndex().value_or(-1);

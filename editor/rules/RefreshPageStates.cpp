@@ -46,7 +46,7 @@ constexpr std::array wholePass{
     PassRule{ApplyIntervall,           false, false},
     PassRule{ApplyInactive,            false, false},
     PassRule{ApplyFreeSpace,           false, false},
-    PassRule{ApplyExecDo,              false, false},
+    PassRule{ShowExecDo,               false, false},
     PassRule{ApplyMonitorPath,         true,  false},
     PassRule{ApplySubFolder,           true,  true},
     PassRule{UpdateFolderNameCaption,  true,  true},
@@ -87,6 +87,7 @@ constexpr std::array pageRules{
     PageRule{FillCompressionLevels,    11,    9,    none},
     PageRule{ShowCompressionFrames,    11,    9,    none},
     PageRule{ShowDestinationFrames,    12,   10,    8},
+    PageRule{MarkDestinationPage,      12,   10,    8},
 };
 
 // Everything that a choice can change, a row for each page or topic. The action's own rule is not among them: it would
@@ -94,7 +95,7 @@ constexpr std::array pageRules{
 constexpr Rule choices[] = {
     ApplyJobName, ReflectOnlyCompare, ApplyEditPaths, ApplyDestinationPath, RefreshPathTexts,
     UpdateIntervalUnitLabels, ApplyIntervall, ApplyMonitorPath,
-    ApplyInactive, ApplyFreeSpace, ApplyExecDo,
+    ApplyInactive, ApplyFreeSpace, ShowExecDo,
     ApplySubFolder, UpdateFolderNameCaption, ApplyFileMatch, UpdateFileNameCaption,
     ApplyExt, ApplySize,
     UpdateAgeUnitLabels, ApplyAge, ApplyDestFileTime, ApplyDestFileTimePage,
@@ -148,7 +149,9 @@ void SetNodeIFace(FormModel& form, int position, int viewLevel, std::string_view
     RefreshPageStates(form, text, viewLevel, position);
     HeadPageAsNode(form, position);
     // View 9 has no rule pass; its last page follows the action all the same.
-    if (viewLevel == 9) ShowDestinationFrames(form);
+    if (viewLevel != 9) return;
+    ShowDestinationFrames(form);
+    if (nodeOfPage(form, Page::existing) == position) MarkDestinationPage(form);
 }
 
 void ApplyLoadedChoices(FormModel& form) {

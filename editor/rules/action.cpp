@@ -177,8 +177,8 @@ void ShowCompressionFrames(FormModel& form) {
     form.lblNoOptionMsg[0].Visible = !form.fraZip.Visible && !form.fraUnZip.Visible;
     if (form.lblNoOptionMsg[0].Visible) form.lblNoOptionMsg[0].Caption = noOptionText(form);
     ApplyZipAll(form);
-    ApplyZipDelComp(form);
-    ApplyZipDelDeComp(form);
+    ShowZipDelComp(form);
+    ShowZipDelDeComp(form);
 }
 
 void ShowDestinationFrames(FormModel& form) {

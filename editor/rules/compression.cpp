@@ -49,8 +49,12 @@ void ApplyZipAll(FormModel& form) {
 }
 
 void ApplyZipDelComp(FormModel& form) {
+    if (!form.chkZipDelComp.isSet()) form.chkZipDelComp.State = 0;
+    ShowZipDelComp(form);
+}
+
+void ShowZipDelComp(FormModel& form) {
     const bool deleting = form.chkZipDelComp.isSet();
-    if (!deleting) form.chkZipDelComp.State = 0;  // a grey box becomes a plain cleared one
     for (EditorControl* companion : {&form.chkZipDelCompBin, &form.chkZipDelCompBinFolder}) {
         if (form.DisableInsteadOfHide) companion->Enabled = deleting;
         companion->Visible = deleting || form.DisableInsteadOfHide;
@@ -58,8 +62,12 @@ void ApplyZipDelComp(FormModel& form) {
 }
 
 void ApplyZipDelDeComp(FormModel& form) {
+    if (!form.chkZipDelDeComp.isSet()) form.chkZipDelDeCompBin.State = 0;
+    ShowZipDelDeComp(form);
+}
+
+void ShowZipDelDeComp(FormModel& form) {
     const bool deleting = form.chkZipDelDeComp.isSet();
-    if (!deleting) form.chkZipDelDeCompBin.State = 0;
     if (form.DisableInsteadOfHide) form.chkZipDelDeCompBin.Enabled = deleting;
     form.chkZipDelDeCompBin.Visible = deleting || form.DisableInsteadOfHide;
 }
@@ -69,9 +77,7 @@ void FillCompressionLevels(FormModel& form) {
     for (std::size_t level = 0; level < levelCount; ++level)
         form.dxZipGrade.Items.push_back(form.TextCatalogue[catalogue::firstLevel + level]);
     const int position = form.CompressionLevel - firstLevel;
-    if (position >= 0 && position < static_cast<int>(levelCount)) {
-        form.dxZipGrade.EditValue = form.dxZipGrade.Items[static_cast<std::size_t>(position)];
-    }
+    if (position >= 0 && position < static_cast<int>(levelCount)) form.dxZipGrade.pick(position);
 }
 
 void PickCompressionLevel(FormModel& form) {

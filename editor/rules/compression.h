@@ -9,10 +9,14 @@ namespace kestedit {
 
 /// Change rule of chkZipAll: folder structure inside and outside the archive.
 void ApplyZipAll(FormModel& form);
-/// Change rule of chkZipDelComp. Its companion keeps its value when the switch is cleared, unlike chkZipDelDeComp's.
+/// Change rule of chkZipDelComp: a grey box becomes a plain one. Its companion keeps its value when the switch is
+/// cleared, unlike chkZipDelDeComp's.
 void ApplyZipDelComp(FormModel& form);
 /// Change rule of chkZipDelDeComp; clears its companion when it is cleared.
 void ApplyZipDelDeComp(FormModel& form);
+/// The companions of both, shown or not. What a loaded job holds stands.
+void ShowZipDelComp(FormModel& form);
+void ShowZipDelDeComp(FormModel& form);
 
 /// Fills dxZipGrade and selects the job's level; a level outside 1 to 4 leaves the text as it is.
 void FillCompressionLevels(FormModel& form);

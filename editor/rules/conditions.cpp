@@ -6,15 +6,19 @@
 namespace kestedit {
 
 void ApplyExecDo(FormModel& form) {
+    if (!form.chkExecDo.isSet()) form.chkExecWait.State = 0;
+    ShowExecDo(form);
+}
+
+void ShowExecDo(FormModel& form) {
     const bool on = form.chkExecDo.isSet();
-    if (!on) form.chkExecWait.State = 0;
     SetAllApply(form, on, form.optExecute, form.lblExecPath, form.lblExecParam, form.dxExecParam, form.dxExecPath,
                 form.chkExecWait, form.dxExecMaxSec, form.lblExecMaxSec);
     ApplyExecWait(form);
 }
 
 void ApplyExecWait(FormModel& form) {
-    form.dxExecMaxSec.Enabled = form.chkExecWait.isSet();
+    form.dxExecMaxSec.Enabled = form.chkExecDo.isSet() && form.chkExecWait.isSet();
 }
 
 void ApplyFreeSpace(FormModel& form) {

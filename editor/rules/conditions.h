@@ -7,8 +7,10 @@
 
 namespace kestedit {
 
-/// Change rule of chkExecDo: the whole group of the program, hidden or disabled; ends with ApplyExecWait.
+/// Change rule of chkExecDo: without a program there is no waiting for it; then ShowExecDo.
 void ApplyExecDo(FormModel& form);
+/// The whole group of the program, hidden or disabled. A job that was loaded keeps what it holds.
+void ShowExecDo(FormModel& form);
 /// Change rule of chkExecWait.
 void ApplyExecWait(FormModel& form);
 /// Change rule of chkFreeSpace.

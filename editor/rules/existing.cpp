@@ -62,7 +62,6 @@ void ApplyExist(FormModel& form) {
 }
 
 void ApplyExistingFilesPage(FormModel& form) {
-    form.lblNoOptionMsg[1].Visible = selectedAction(form) == Action::remove;
     SetAllApply(form, selectedAction(form) == Action::extract, form.lblDestZExist, form.optUnZip);
     ApplyExist(form);
 }

@@ -54,6 +54,11 @@ void ApplyMonitorPath(FormModel& form) {
     SetApplies(form, form.dxMonitorPath, watching && form.optMonitorPath[MonitoredFolder::own].isSet());
 }
 
+void LeaveMissingDestination(FormModel& form) {
+    const bool watched = form.optMonitorPath[MonitoredFolder::destination].isSet();
+    if (watched && !HasDestination(form)) form.optMonitorPath.select(static_cast<std::size_t>(MonitoredFolder::source));
+}
+
 bool ChangesSchedule(const FormModel& form) {
     return form.optIntervall[Schedule::time].isSet() || form.optIntervall[Schedule::monitoring].isSet();
 }

@@ -18,6 +18,10 @@ void ApplyRunTime(FormModel& form);
 /// Change rule of optMonitorPath: 0 source, 1 destination, 2 a folder of its own.
 void ApplyMonitorPath(FormModel& form);
 
+/// A job without a destination folder cannot watch it: it watches the source from then on. Part of the user's choice of
+/// an action; a loaded job keeps what it holds.
+void LeaveMissingDestination(FormModel& form);
+
 /// Whether the page makes the job run otherwise than at an interval.
 [[nodiscard]] bool ChangesSchedule(const FormModel& form);
 

@@ -53,12 +53,16 @@ void ApplySize(FormModel& form) {
 
 void ApplyRegExFile(FormModel& form) {
     UpdateFileNameCaption(form);
-    if (form.chkRegExFile.isSet()) form.InvalidFileNameChars = false;
+    if (!form.chkRegExFile.isSet()) return;
+    form.InvalidFileNameChars = false;
+    form.DroppedChars.erase(&form.dxFileName);
 }
 
 void ApplyRegExFolder(FormModel& form) {
     UpdateFolderNameCaption(form);
-    if (form.chkRegExFolder.isSet()) form.InvalidFolderMatchChars = false;
+    if (!form.chkRegExFolder.isSet()) return;
+    form.InvalidFolderMatchChars = false;
+    form.DroppedChars.erase(&form.dxFolderMatch);
 }
 
 void UpdateFileNameCaption(FormModel& form) {

@@ -132,7 +132,7 @@ class EditorTest : public testing::Test, public Surroundings {
     void choose(std::string_view group, int member) {
         form().onOptionChosen(at(std::string{group} + "(" + std::to_string(member) + ")"));
     }
-    void pick(std::string_view name, std::size_t item) { form().onItemPicked(at(name), at(name).Items.at(item)); }
+    void pick(std::string_view name, std::size_t item) { form().onItemPicked(at(name), static_cast<int>(item)); }
     void number(std::string_view name, std::int64_t value) { form().onNumberTyped(at(name), value); }
     void spin(std::string_view name, bool up) { form().onSpin(at(name), up); }
     void button(std::string_view name, int index) { form().onInnerButton(at(name), index); }

@@ -66,8 +66,9 @@ struct RoundTrip : EditorTest {
     /// The controls, without what nobody sees: some rules set it only when it is to be shown.
     [[nodiscard]] std::string storedLook() {
         const std::set<std::string_view> left{"chkZipDelDeCompBin",  // no key brings it back; views differ in the rest
-                                              "optAction",          "optIntervall", "fraExistingUnzip", "lblDestZExist",
-                                              "optUnZip",           "lblNamePath",  "lblKeepFolders"};
+                                              "optAction",          "optIntervall",  "fraExistingUnzip",
+                                              "lblDestZExist",      "optUnZip",      "lblNamePath",
+                                              "lblKeepFolders",     "lblNoOptionMsg"};
         std::string look = "picture " + std::to_string(form().ActionPicture) + "\n";
         for (EditorControl* control : form().controls()) {
             const EditorControl* frame = control->Container;

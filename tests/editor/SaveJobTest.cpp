@@ -59,8 +59,8 @@ TEST_F(SaveJob, EmptyNameOfAnEditedJob) {
         "\r\nDer Name wird als Dateiname benutzt.\r\nBitte geben Sie einen Namen für Ihren Autrag ein.\r\n\r\n" + last;
     create();
     type("dxName", "   ");
-    EXPECT_EQ(save({Answer::proceed}), empty + rest);
-    EXPECT_EQ(prompts.messages.back().buttons, Buttons::cancelRetryContinue);
+    EXPECT_EQ(save({Answer::ok}), empty + rest);
+    EXPECT_EQ(prompts.messages.back().buttons, Buttons::ok);
     putJob("a", "[Job]\nName=a\n");
     // With a language file, what that has under the key of the last line.
     for (const auto& [language, first] : {std::pair{values.Language, last}, {"", empty}}) {

@@ -24,6 +24,7 @@ TEST_F(ProgramTest, AFailureIsACodeAndOneLineAndDoesNothing) {
         {"", 2, "A subcommand is required"},
         {"script new a.script b.script", 2, "The following argument was not expected: b.script"},
         {"new --view 32768", 2, "--view: \"32768\" is no whole number that fits"},
+        {"new --view 7", 2, "--view: 7 is no view level: 4, 9, 15 or 23"},
         {"new --now 2026-02-29T00:00:00", 2, "--now: \"2026-02-29T00:00:00\" is no moment such as 2026-11-21T14:05:00"},
         {"new --date-format dd.MM", 2, "--date-format: date format \"dd.MM\": day, month or year is missing"},
         {"ini get a.ini S k --code-page 99", 2, "--code-page: code page 99 is not known to this system"},
@@ -186,7 +187,9 @@ TEST_F(ScriptTest, TextsOfTheProgramStandInTheirPageWhateverTheJobsHave) {
 TEST_F(ScriptTest, EventsGoToTheDialogInFront) {
     const std::string open = "type dxSource .\nbutton dxSource 1\nprint dlgNewFolder.Caption\n";
     const auto created = script("new", open + "type dxTextEdit1 sub\nclick cmdCreate\nprint dxSource.EditValue\n");
-    EXPECT_TRUE(created.out.ends_with("\ndxSource.EditValue = \"./sub\"\nevent none\n")) << created.out << created.err;
+    EXPECT_TRUE(
+        created.out.ends_with("\ndxSource.EditValue = \"" + (folder.path() / "sub").string() + "\"\nevent none\n"))
+        << created.out << created.err;
     EXPECT_EQ(script("new", open).code, 0);
     EXPECT_TRUE(script("new", open + "close\nprint dxSource.EditValue\n").out.ends_with("\".\"\nevent none\n"));
 }

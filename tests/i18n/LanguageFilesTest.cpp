@@ -153,7 +153,7 @@ TEST_F(RunTimeTexts, AFileWithoutThemSpeaksGermanOrElseEnglish) {
         const auto id = static_cast<TextId>(i);
         const bool ofTwo = id == TextId::nameMissingEdited || id == TextId::overwriteEdited;
         EXPECT_TRUE(ofTwo || german[i] == none[i]) << german[i] << none[i];
-        EXPECT_EQ(french[i], id >= TextId::sourceMissing ? english[i] : none[i]);
+        EXPECT_EQ(french[i], id >= TextId::newFolderIn ? english[i] : none[i]);
         EXPECT_TRUE(id == TextId::dateTitle || english[i] != german[i]) << english[i];
     }
 }
