@@ -15,10 +15,17 @@
 #include "editor/rules/schedule.h"
 #include "editor/rules/selection.h"
 #include "editor/rules/synchronise.h"
+#include "form/ControlNames.h"
 
 namespace kestedit {
 
 namespace {
+
+/// A control or group, and the rule of its change; `member` is the index of the member that changed.
+struct ChangeRule {
+    std::string_view control;
+    void (*run)(FormModel& form, int member);
+};
 
 template <void (*... Rules)(FormModel&)>
 void run(FormModel& form, int /*member*/) {
@@ -110,11 +117,10 @@ constexpr std::array changeRuleRows{
 };
 // clang-format on
 
-}  // namespace
+static_assert(namesControlBases(changeRuleRows, &ChangeRule::control), "a rule names no control");
+static_assert(namesNoneTwice(changeRuleRows, &ChangeRule::control), "a control has two rules");
 
-std::span<const ChangeRule> changeRules() {
-    return changeRuleRows;
-}
+}  // namespace
 
 void RunChangeRule(FormModel& form, const EditorControl& control) {
     const auto* const rule = std::ranges::find(changeRuleRows, control.Base, &ChangeRule::control);

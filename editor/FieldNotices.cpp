@@ -15,6 +15,7 @@
 #include "editor/RequiredFields.h"
 #include "editor/rules/paths.h"
 #include "editor/rules/schedule.h"
+#include "form/ControlNames.h"
 #include "i18n/Texts.h"
 #include "persistence/DurationMinutes.h"
 #include "persistence/modSaveValues.h"
@@ -185,6 +186,8 @@ constexpr auto noticeRules = std::to_array<NoticeRule>({
     {"dxRenamer",         whenLeft, [](const F& form) { return required(form, form.dxRenamer); }},
 });
 // clang-format on
+
+static_assert(namesControls(noticeRules, &NoticeRule::control), "a notice names no control");
 
 /// What can be wrong with any control: a stored value that it cannot show, a number outside of its range.
 Noticed ofAnyControl(const EditorControl& control) {

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "form/ControlNames.h"
+
 namespace kestedit {
 
 namespace {
@@ -17,6 +19,9 @@ constexpr std::array numberRanges{
     EditorRange{"dxSize", {0, 999'999'999'999'999}},
     EditorRange{"dxFreeSpace", {0, 999'999'999'999}},
 };
+
+static_assert(namesControlBases(numberRanges, &EditorRange::editor), "a range names no control");
+static_assert(namesNoneTwice(numberRanges, &EditorRange::editor), "an editor has two ranges");
 
 constexpr NumberRange ordinary{0, 999'999'999};
 

@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "form/ControlNames.h"
+
 namespace kestedit {
 
 namespace {
@@ -88,6 +90,12 @@ constexpr std::array followers{
     Follower{"chkSyncDelete",         "optSyncStart(1)"},
 };
 // clang-format on
+
+static_assert(namesControls(tabList, &TabPlace::control), "a place names no control");
+static_assert(std::ranges::is_sorted(tabList, {}, &TabPlace::index), "places stand in their order");
+static_assert(namesControls(followers, &Follower::control) && namesControls(followers, &Follower::governor),
+              "a follower names no control");
+static_assert(namesNoneTwice(followers, &Follower::control), "a control follows two others");
 
 using Sequence = std::vector<EditorControl*>;
 

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 
+#include "form/ControlNames.h"
 #include "i18n/LoadLanguage.h"
 
 namespace kestedit {
@@ -230,6 +231,12 @@ static_assert(std::ranges::is_sorted(table, {}, &TextTarget::key), "each text is
 static_assert(std::ranges::adjacent_find(table, [](auto& row, auto& next) { return next.key > row.key + 1; }) ==
                   table.end(),
               "every key has a use");
+static_assert(std::ranges::all_of(table,
+                                  [](const TextTarget& row) {
+                                      return row.control.empty() ? static_cast<std::size_t>(row.index) < catalogueSize
+                                                                 : isControl(row.control);
+                                  }),
+              "a text goes to a control or to an entry of the catalogue");
 
 }  // namespace
 

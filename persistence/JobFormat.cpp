@@ -1,6 +1,9 @@
 #include "persistence/JobFormat.h"
 
+#include <algorithm>
 #include <string>
+
+#include "form/ControlNames.h"
 
 namespace kestedit {
 
@@ -117,6 +120,17 @@ constexpr JobRow jobRows[] = {
     {"IntMonthDay",          "dxIntMonthDay",          number},
 };
 // clang-format on
+
+/// Whether a row's control is one that its form can stand for: a whole group for an index, one control for the rest.
+constexpr bool fitsItsForm(const JobRow& row) {
+    const bool group = row.form == index || row.form == optionalIndex || row.form == actionIndex ||
+                       row.form == extensionIndex || row.form == sizeIndex;
+    if (row.control.empty())
+        return row.form == zero || row.form == empty || row.form == nodeIcon || row.form == intervalState;
+    return group ? isControlBase(row.control) && !isControl(row.control) : isControl(row.control);
+}
+static_assert(std::ranges::all_of(jobRows, fitsItsForm), "a row names no control that its form can stand for");
+static_assert(namesNoneTwice(std::span{jobRows}, &JobRow::key), "a key stands twice");
 
 std::string twoDigits(std::string_view number) {
     return (number.size() < 2 ? "0" : "") + std::string{number};

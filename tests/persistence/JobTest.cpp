@@ -1,7 +1,9 @@
 // The way of a form into a job file and back.
 #include <array>
 #include <limits>
+#include <map>
 #include <regex>
+#include <sstream>
 #include <tuple>
 
 #include "persistence/JobFormat.h"
@@ -29,6 +31,15 @@ struct JobTest : test::EditorTest {
         return "(none)";
     }
 };
+/// In one word.
+std::string valueOf(const Value& value) {
+    if (const auto* text = std::get_if<std::string>(&value)) return *text;
+    if (const auto* number = std::get_if<std::int64_t>(&value)) return std::to_string(*number);
+    if (const auto* date = std::get_if<Date>(&value)) return DateFormat("yyyy-MM-dd").text(*date);
+    if (const auto* time = std::get_if<TimeOfDay>(&value)) return timeText(*time);
+    return "";
+}
+
 using LoadTest = JobTest;
 using SaveTest = JobTest;
 
@@ -43,6 +54,38 @@ TEST(JobFormat, TheDocumentListsTheSameKeysInTheSameOrder) {
     for (const JobRow& line : jobFormat())
         expected.append(line.key).append(" ").append(line.control).append("\n");
     EXPECT_EQ(listed, expected);
+}
+
+/// Each key alone and what it moves in the form: the agreement with runners. No target writes this file; a new key is
+/// entered by hand, and a line that changes breaks jobs.
+TEST_F(LoadTest, EachKeyMovesTheControlsOfTheApprovedList) {
+    const auto contents = [this] {
+        std::map<std::string, std::string> all;
+        for (const EditorControl* control : form().controls()) {
+            const auto value = control->Kind == ControlKind::option || control->Kind == ControlKind::check
+                                   ? Value{std::int64_t{control->State}}
+                                   : control->EditValue;
+            all[control->Name()] = testing::PrintToString(value.index()) + "/" + valueOf(value);
+        }
+        return all;
+    };
+    load("[Job]\n");
+    const auto untouched = contents();
+    std::istringstream approved(bytesOf(KESTEDIT_APPROVED_FORMAT));
+    std::string keys;
+    for (std::string line; std::getline(approved, line);) {
+        const std::string entry = line.substr(0, line.find(' '));
+        load("[Job]\n" + entry + "\n");
+        std::string moved = entry;
+        for (const auto& [name, content] : contents())
+            if (untouched.at(name) != content) moved += " " + name + "=" + content.substr(2);
+        EXPECT_EQ(moved, line);
+        keys += entry.substr(0, entry.find('=')) + "\n";
+    }
+    std::string written;
+    for (const JobRow& row : jobFormat())
+        written.append(row.key).append("\n");
+    EXPECT_EQ(written, keys) << "every key once, in the order of the file";
 }
 
 TEST_F(LoadTest, AbsentKeysLeaveWhatTheControlsAccept) {
