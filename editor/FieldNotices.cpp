@@ -13,6 +13,7 @@
 #include "editor/JobName.h"
 #include "editor/NumberRanges.h"
 #include "editor/RequiredFields.h"
+#include "editor/Views.h"
 #include "editor/rules/paths.h"
 #include "editor/rules/schedule.h"
 #include "form/ControlNames.h"
@@ -111,8 +112,8 @@ Noticed hiddenSchedule(const FormModel& form) {
     const auto chosen = form.optIntervall.selected();
     if (!chosen || !ChangesSchedule(form)) return std::nullopt;
     const EditorControl& member = form.optIntervall[static_cast<std::size_t>(*chosen)];
-    const bool hidden = form.ViewLevel == "15" || form.ViewLevel == "23";
-    if (member.Visible && !hidden) return std::nullopt;
+    const bool pageMissing = viewOf(form) && !nodeOfPage(form, Page::monitoring);
+    if (member.Visible && !pageMissing) return std::nullopt;
     return Notice{TextId::scheduleNotInView, {member.plainCaption()}};
 }
 

@@ -1,18 +1,8 @@
 #include "editor/NodeImages.h"
 
-#include "editor/modCompNodes.h"
+#include "editor/Views.h"
 
 namespace kestedit {
-
-std::optional<int> nodeOfPage(const FormModel& form, Page page) {
-    const auto frame = frameOfPage(page);
-    return frame ? nodeOfControl(form, form.*frame) : std::nullopt;
-}
-
-bool isMarked(const FormModel& form, Page page) {
-    if (form.ViewLevel != "23") return true;
-    return page == Page::mode || (page >= Page::folders && page <= Page::attributes);
-}
 
 void SetNodeImage(FormModel& form, Page page, std::string_view image) {
     if (!form.Ready || form.TreeBusy) return;

@@ -6,6 +6,8 @@
 #include <string>
 
 #include "editor/FieldNotices.h"
+#include "editor/NodeImages.h"
+#include "editor/Views.h"
 #include "editor/modCompNodes.h"
 #include "editor/modTabOrder.h"
 #include "editor/rules/RefreshPageStates.h"
@@ -74,7 +76,7 @@ void frmEdit::Load() {
     BuildNavigationTree(*this);
     TreeBusy = false;
     TitleDestinationNode(*this);
-    if (const int view = viewNumber(*this)) RefreshPageStates(*this, "all", view, 0);
+    if (const View* const view = viewOf(*this)) RefreshPageStates(*this, "all", view->number, 0);
     Ready = true;
     if (values_.Mode == "New") applyNewJob();
     showPage(0);
@@ -135,7 +137,8 @@ void frmEdit::applyNewJob() {
     SetNewJobDefaults(*this, platform_.clock.now());
     ApplyAction(*this);
     ApplyLoadedChoices(*this);
-    if (ViewLevel == "4" || ViewLevel == "15") SetNodeImage(*this, Page::reduced, image::doesNotApply);
+    const View* const view = viewOf(*this);
+    if (view && view->marksReducedOnNew) SetNodeImage(*this, Page::reduced, image::doesNotApply);
 }
 
 void frmEdit::close() {

@@ -4,7 +4,7 @@
 #include "editor/JobName.h"
 #include "editor/RequiredFields.h"
 #include "editor/frmEdit.h"
-#include "editor/modCompNodes.h"
+#include "editor/Views.h"
 #include "i18n/Catalogue.h"
 #include "persistence/modSaveValues.h"
 #include "platform/Text.h"

@@ -9,7 +9,7 @@
 #include <string>
 #include <utility>
 
-#include "editor/modCompNodes.h"
+#include "editor/Views.h"
 #include "host/IsoTime.h"
 #include "host/ScriptEvents.h"
 #include "host/ScriptText.h"

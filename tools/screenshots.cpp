@@ -22,7 +22,7 @@
 #include "desktop/FormWindow.h"
 #include "desktop/OutlineStyle.h"
 #include "editor/frmEdit.h"
-#include "editor/modCompNodes.h"
+#include "editor/Views.h"
 
 namespace {
 

@@ -1,8 +1,9 @@
 #include "editor/rules/RefreshPageStates.h"
 
 #include <array>
+#include <string>
 
-#include "editor/NodeImages.h"
+#include "editor/Views.h"
 #include "editor/modSpinButtons.h"
 #include "editor/rules/action.h"
 #include "editor/rules/attributes.h"
@@ -22,22 +23,12 @@ namespace {
 
 using Rule = void (*)(FormModel&);
 
-/// A rule of the whole pass and the reduced views that run it too. View 4 runs all of them, view 9 none.
+/// A rule of the complete pass, and the other passes that run it too.
 struct PassRule {
     Rule rule;
-    bool view15;
-    bool view23;
+    bool withoutSchedule;
+    bool small;
 };
-
-/// A rule of a page and the position of its node in each view; `none` where the view does not run it. The rules of a
-/// position run in the order of their rows.
-struct PageRule {
-    Rule rule;
-    int view4;
-    int view15;
-    int view23;
-};
-constexpr int none = -1;
 
 // clang-format off
 constexpr std::array wholePass{
@@ -66,28 +57,37 @@ constexpr std::array wholePass{
     PassRule{ApplySyncStart,           true,  true},
 };
 
-// In view 15 the positions 3 to 6 show other pages than those that the rules belong to, deliberately; the rules do no
-// harm there. Test: RefreshPageStates.View15RunsRulesByPosition.
+/// A rule of a page; those of one set run in the order of their rows.
+struct PageRule {
+    PageRules set;
+    Rule rule;
+};
+
 constexpr std::array pageRules{
-    PageRule{ApplyJobName,              0,    0,    0},
-    PageRule{ShowCompressionFrames,     none, 0,    none},
-    PageRule{ApplyEditPaths,            2,    2,    0},
-    PageRule{ApplyDestinationPath,      2,    2,    0},
-    PageRule{RefreshPathTexts,          2,    2,    0},
-    PageRule{UpdateIntervalUnitLabels,  3,    3,    none},
-    PageRule{ApplyRunTime,              3,    3,    none},
-    PageRule{RefreshRunConditionsPage,  4,    4,    none},
-    PageRule{UpdateFileNameCaption,     5,    5,    2},
-    PageRule{ApplyFileMatch,            6,    6,    3},
-    PageRule{UpdateAgeUnitLabels,       9,    7,    6},
-    PageRule{ApplyAge,                  9,    7,    6},
-    PageRule{ApplyDestFileTimePage,     9,    7,    6},
-    PageRule{ApplySourceAttributes,    10,    8,    7},
-    PageRule{ApplyDestAttributes,      10,    8,    7},
-    PageRule{FillCompressionLevels,    11,    9,    none},
-    PageRule{ShowCompressionFrames,    11,    9,    none},
-    PageRule{ShowDestinationFrames,    12,   10,    8},
-    PageRule{MarkDestinationPage,      12,   10,    8},
+    PageRule{PageRules::name,               ApplyJobName},
+    PageRule{PageRules::nameAndCompression, ApplyJobName},
+    PageRule{PageRules::nameAndCompression, ShowCompressionFrames},
+    PageRule{PageRules::nameAndPaths, ApplyJobName},
+    PageRule{PageRules::nameAndPaths, ApplyEditPaths},
+    PageRule{PageRules::nameAndPaths, ApplyDestinationPath},
+    PageRule{PageRules::nameAndPaths, RefreshPathTexts},
+    PageRule{PageRules::paths,              ApplyEditPaths},
+    PageRule{PageRules::paths,              ApplyDestinationPath},
+    PageRule{PageRules::paths,              RefreshPathTexts},
+    PageRule{PageRules::interval,           UpdateIntervalUnitLabels},
+    PageRule{PageRules::interval,           ApplyRunTime},
+    PageRule{PageRules::runConditions,      RefreshRunConditionsPage},
+    PageRule{PageRules::fileNameCaption,    UpdateFileNameCaption},
+    PageRule{PageRules::fileMatch,          ApplyFileMatch},
+    PageRule{PageRules::date,               UpdateAgeUnitLabels},
+    PageRule{PageRules::date,               ApplyAge},
+    PageRule{PageRules::date,               ApplyDestFileTimePage},
+    PageRule{PageRules::attributes,         ApplySourceAttributes},
+    PageRule{PageRules::attributes,         ApplyDestAttributes},
+    PageRule{PageRules::compression,        FillCompressionLevels},
+    PageRule{PageRules::compression,        ShowCompressionFrames},
+    PageRule{PageRules::destination,        ShowDestinationFrames},
+    PageRule{PageRules::destination,        MarkDestinationPage},
 };
 
 // Everything that a choice can change, a row for each page or topic. The action's own rule is not among them: it would
@@ -105,21 +105,9 @@ constexpr Rule choices[] = {
 };
 // clang-format on
 
-int positionIn(const PageRule& row, int viewLevel) {
-    switch (viewLevel) {
-        case 4:
-            return row.view4;
-        case 15:
-            return row.view15;
-        case 23:
-            return row.view23;
-        default:
-            return none;
-    }
-}
-
-bool runsIn(const PassRule& row, int viewLevel) {
-    return viewLevel == 4 || (viewLevel == 15 && row.view15) || (viewLevel == 23 && row.view23);
+bool runsIn(const PassRule& row, RulePass pass) {
+    return pass == RulePass::complete || (pass == RulePass::withoutSchedule && row.withoutSchedule) ||
+           (pass == RulePass::small && row.small);
 }
 
 // Two pages change with view and action, and their headings with the titles of their nodes: the notes stand alone in
@@ -134,24 +122,22 @@ void HeadPageAsNode(FormModel& form, int position) {
 }  // namespace
 
 void RefreshPageStates(FormModel& form, std::string_view what, int viewLevel, int page) {
+    const View* const view = viewOf(std::to_string(viewLevel));
+    if (!view) return;
     if (what == "all") {
-        for (const PassRule& row : wholePass) {
-            if (runsIn(row, viewLevel)) row.rule(form);
-        }
+        for (const PassRule& row : wholePass)
+            if (runsIn(row, view->pass)) row.rule(form);
         return;
     }
-    for (const PageRule& row : pageRules) {
-        if (page != none && positionIn(row, viewLevel) == page) row.rule(form);
-    }
+    if (page < 0 || page >= static_cast<int>(view->nodes.size())) return;
+    const PageRules rules = view->nodes[static_cast<std::size_t>(page)].rules;
+    for (const PageRule& row : pageRules)
+        if (row.set == rules) row.rule(form);
 }
 
 void SetNodeIFace(FormModel& form, int position, int viewLevel, std::string_view text) {
     RefreshPageStates(form, text, viewLevel, position);
     HeadPageAsNode(form, position);
-    // View 9 has no rule pass; its last page follows the action all the same.
-    if (viewLevel != 9) return;
-    ShowDestinationFrames(form);
-    if (nodeOfPage(form, Page::existing) == position) MarkDestinationPage(form);
 }
 
 void ApplyLoadedChoices(FormModel& form) {

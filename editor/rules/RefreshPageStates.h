@@ -8,8 +8,7 @@
 namespace kestedit {
 
 /// `what` "all" runs every rule of the view, any other text those of one page. `page` is the position of the page's
-/// node in the list, deliberately also in view 15, whose pages stand at other positions than in the complete editor.
-/// View 9 has no rule pass. Running it twice has no further effect.
+/// node in the list. The view's record says which rules run where. Running it twice has no further effect.
 void RefreshPageStates(FormModel& form, std::string_view what, int viewLevel, int page);
 
 /// Called whenever a node's page is shown: adapts the page to the node.

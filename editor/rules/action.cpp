@@ -1,11 +1,10 @@
 #include "editor/rules/action.h"
 
-#include <algorithm>
 #include <array>
-#include <initializer_list>
 #include <string>
 
 #include "editor/NodeImages.h"
+#include "editor/Views.h"
 #include "editor/rules/compression.h"
 #include "editor/rules/dateAge.h"
 #include "editor/rules/existing.h"
@@ -34,22 +33,12 @@ constexpr std::array<ActionImages, actionCount> actionImages{{
     {"12", "11"},
 }};
 
-bool hasView(const FormModel& form, std::initializer_list<std::string_view> levels) {
-    return std::ranges::find(levels, std::string_view{form.ViewLevel}) != levels.end();
-}
-
 void markPagesByAction(FormModel& form, Action action) {
     const bool compressing = action == Action::compress || action == Action::extract;
     if (compressing) form.chkFStruct.State = 0;
-    if (action == Action::remove && hasView(form, {"4", "9", "15"})) {
-        SetNodeImage(form, Page::existing, image::doesNotApply);
-    }
-    if (hasView(form, {"4", "15"})) {
-        SetNodeImage(form, Page::compression, compressing ? image::applies : image::doesNotApply);
-    }
-    if (action == Action::synchronise && hasView(form, {"4", "9", "15"})) {
-        SetNodeImage(form, Page::existing, image::none);
-    }
+    if (action == Action::remove) SetNodeImage(form, Page::existing, image::doesNotApply);
+    SetNodeImage(form, Page::compression, compressing ? image::applies : image::doesNotApply);
+    if (action == Action::synchronise) SetNodeImage(form, Page::existing, image::none);
 }
 
 // Path page and linked options. Synchronising renames source and destination, keeps the folder structure in any case
@@ -102,11 +91,11 @@ std::string_view ActionImage(int action, bool preview) {
 }
 
 void TitleDestinationNode(FormModel& form) {
-    if (form.TreeBusy || !hasView(form, {"4", "15"})) return;
-    const std::size_t position = form.ViewLevel == "4" ? 12 : 10;
-    if (position >= form.Navigation.Nodes.size()) return;
+    const View* const view = viewOf(form);
+    const auto position = nodeOfPage(form, Page::existing);
+    if (form.TreeBusy || !view || !view->titlesDestination || !position || form.Navigation.Nodes.empty()) return;
     const bool synchronise = selectedAction(form) == Action::synchronise;
-    form.Navigation.Nodes[position].Title =
+    form.Navigation.Nodes.at(static_cast<std::size_t>(*position)).Title =
         form.TextCatalogue[synchronise ? catalogue::synchronisation : catalogue::destinationNode];
 }
 
@@ -184,7 +173,7 @@ void ShowCompressionFrames(FormModel& form) {
 void ShowDestinationFrames(FormModel& form) {
     const Action action = selectedAction(form);
     form.fraZielverzeichnis.Visible = action != Action::remove && action != Action::extract;
-    form.fraExistingUnzip.Visible = action == Action::extract && form.ViewLevel != "9";
+    form.fraExistingUnzip.Visible = action == Action::extract && !isHiddenByView(form, form.fraExistingUnzip);
     form.lblNoOptionMsg[1].Visible = !form.fraZielverzeichnis.Visible && !form.fraExistingUnzip.Visible;
     if (form.lblNoOptionMsg[1].Visible) form.lblNoOptionMsg[1].Caption = noOptionText(form);
     ApplyExistingFilesPage(form);

@@ -5,7 +5,6 @@
 #include "editor/NodeImages.h"
 #include "editor/rules/action.h"
 #include "editor/rules/applicability.h"
-#include "editor/rules/pageMarks.h"
 
 namespace kestedit {
 

@@ -1,5 +1,7 @@
 #include "editor/rules/pageMarks.h"
 
+#include "editor/NodeImages.h"
+#include "editor/Views.h"
 #include "editor/rules/action.h"
 #include "editor/rules/attributes.h"
 #include "editor/rules/compression.h"

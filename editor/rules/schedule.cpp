@@ -2,7 +2,6 @@
 
 #include "editor/NodeImages.h"
 #include "editor/rules/applicability.h"
-#include "editor/rules/pageMarks.h"
 #include "editor/rules/paths.h"
 
 namespace kestedit {

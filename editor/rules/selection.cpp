@@ -4,7 +4,6 @@
 #include "editor/rules/applicability.h"
 #include "editor/rules/compression.h"
 #include "editor/rules/existing.h"
-#include "editor/rules/pageMarks.h"
 #include "i18n/Catalogue.h"
 
 namespace kestedit {

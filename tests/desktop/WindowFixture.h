@@ -15,7 +15,7 @@
 #include "desktop/FormWindow.h"
 #include "desktop/Text.h"
 #include "desktop/widgets/PageArea.h"
-#include "editor/modCompNodes.h"
+#include "editor/Views.h"
 #include "tests/editor/EditorFixture.h"
 
 namespace kestedit::test {

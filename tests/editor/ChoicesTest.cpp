@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "editor/NodeImages.h"
+#include "editor/Views.h"
 #include "tests/editor/EditorFixture.h"
 
 namespace kestedit {

@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <map>
 
-#include "editor/modCompNodes.h"
+#include "editor/Views.h"
 #include "tests/editor/EditorFixture.h"
 
 namespace kestedit {
