@@ -12,6 +12,7 @@
 #include "editor/modTabOrder.h"
 #include "editor/rules/RefreshPageStates.h"
 #include "editor/rules/action.h"
+#include "editor/rules/existing.h"
 #include "editor/rules/paths.h"
 #include "i18n/Catalogue.h"
 #include "i18n/LoadLanguage.h"

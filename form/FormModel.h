@@ -288,6 +288,9 @@ struct KESTEDIT_EXPORT FormModel : ControlRegistry {
     EditorControl* FocusedControl = nullptr;       ///< not owned
     std::vector<const EditorControl*> FrontOrder;  ///< frames brought to the front, the frontmost last
 
+    /// What the job does, as the action's rule has noted it in SelectedAction.
+    [[nodiscard]] Action action() const { return static_cast<Action>(SelectedAction); }
+
     /// Puts a frame in front of those that share its place.
     void BringToFront(const EditorControl& control);
 };

@@ -4,8 +4,6 @@
 #include <string>
 
 #include "editor/NodeImages.h"
-#include "editor/Views.h"
-#include "editor/rules/compression.h"
 #include "editor/rules/dateAge.h"
 #include "editor/rules/existing.h"
 #include "editor/rules/synchronise.h"
@@ -75,28 +73,11 @@ void showDeleteOptions(FormModel& form, bool visible) {
     if (visible) SetNodeImage(form, Page::existing, image::doesNotApply);
 }
 
-// "(Mode Copy files - no options here)"
-std::string noOptionText(const FormModel& form) {
-    const auto action = form.optAction.selected();
-    const std::string caption = action ? form.optAction[static_cast<std::size_t>(*action)].Caption : std::string{};
-    return "(" + form.TextCatalogue[catalogue::mode] + " " + caption + " - " +
-           form.TextCatalogue[catalogue::noOptions] + ")";
-}
-
 }  // namespace
 
 std::string_view ActionImage(int action, bool preview) {
     const ActionImages& images = actionImages.at(static_cast<std::size_t>(action));
     return preview ? images.preview : images.plain;
-}
-
-void TitleDestinationNode(FormModel& form) {
-    const View* const view = viewOf(form);
-    const auto position = nodeOfPage(form, Page::existing);
-    if (form.TreeBusy || !view || !view->titlesDestination || !position || form.Navigation.Nodes.empty()) return;
-    const bool synchronise = selectedAction(form) == Action::synchronise;
-    form.Navigation.Nodes.at(static_cast<std::size_t>(*position)).Title =
-        form.TextCatalogue[synchronise ? catalogue::synchronisation : catalogue::destinationNode];
 }
 
 void ApplyAction(FormModel& form) {
@@ -122,32 +103,6 @@ void ApplyPreview(FormModel& form) {
     ShowActionPicture(form, form.SelectedAction);
 }
 
-void ReflectOnlyCompare(FormModel& form) {
-    if (selectedAction(form) != Action::synchronise) return;
-    const bool comparing = form.chkOnlyCompare.isSet();
-    form.optSyncExist[SyncExisting::keep].Enabled = !comparing;
-    form.optSyncExist[SyncExisting::keep].Caption =
-        form.TextCatalogue[comparing ? catalogue::keepWhileComparing : catalogue::keepExisting];
-    form.chkSyncDelete.Visible = !comparing;
-}
-
-void ApplyOnlyCompare(FormModel& form) {
-    if (selectedAction(form) != Action::synchronise) return;
-    ReflectOnlyCompare(form);
-    form.optSyncExist.select(form.chkOnlyCompare.isSet() ? 1 : 0);
-    ApplySyncExist(form, 0);
-}
-
-std::string_view CompressionMark(const FormModel& form) {
-    const auto action = form.optAction.selected();
-    const bool applies = action == static_cast<int>(Action::compress) || action == static_cast<int>(Action::extract);
-    return applies ? image::applies : image::doesNotApply;
-}
-
-void MarkCompressionPage(FormModel& form) {
-    if (form.optAction.selected()) SetNodeImage(form, Page::compression, CompressionMark(form));
-}
-
 void ShowActionPicture(FormModel& form, int action) {
     int picture = action + 1;
     std::string text = form.optAction[static_cast<std::size_t>(action)].Caption;
@@ -157,26 +112,6 @@ void ShowActionPicture(FormModel& form, int action) {
     }
     if (picture >= 1 && picture <= 2 * actionCount) form.ActionPicture = picture;
     form.Image1.ToolTipText = form.TextCatalogue[catalogue::mode] + ": " + text;
-}
-
-void ShowCompressionFrames(FormModel& form) {
-    const Action action = selectedAction(form);
-    form.fraZip.Visible = action == Action::compress;
-    form.fraUnZip.Visible = action == Action::extract;
-    form.lblNoOptionMsg[0].Visible = !form.fraZip.Visible && !form.fraUnZip.Visible;
-    if (form.lblNoOptionMsg[0].Visible) form.lblNoOptionMsg[0].Caption = noOptionText(form);
-    ApplyZipAll(form);
-    ShowZipDelComp(form);
-    ShowZipDelDeComp(form);
-}
-
-void ShowDestinationFrames(FormModel& form) {
-    const Action action = selectedAction(form);
-    form.fraZielverzeichnis.Visible = action != Action::remove && action != Action::extract;
-    form.fraExistingUnzip.Visible = action == Action::extract && !isHiddenByView(form, form.fraExistingUnzip);
-    form.lblNoOptionMsg[1].Visible = !form.fraZielverzeichnis.Visible && !form.fraExistingUnzip.Visible;
-    if (form.lblNoOptionMsg[1].Visible) form.lblNoOptionMsg[1].Caption = noOptionText(form);
-    ApplyExistingFilesPage(form);
 }
 
 }  // namespace kestedit

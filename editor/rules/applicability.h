@@ -1,6 +1,8 @@
 // How a rule takes an option away that has no effect under the present choices.
 #pragma once
 
+#include <string>
+
 #include "form/FormModel.h"
 
 namespace kestedit {
@@ -24,5 +26,8 @@ void SetAllApply(const FormModel& form, bool applies, Controls&... controls) {
     };
     (set(controls), ...);
 }
+
+/// What stands on a page that has nothing to set for the job's action: "(Mode Copy files - no options here)".
+[[nodiscard]] std::string NoOptionText(const FormModel& form);
 
 }  // namespace kestedit

@@ -1,7 +1,6 @@
 #include "editor/rules/attributes.h"
 
 #include "editor/NodeImages.h"
-#include "editor/rules/action.h"
 #include "editor/rules/applicability.h"
 
 namespace kestedit {
@@ -17,12 +16,12 @@ constexpr std::size_t atSource = 2;
 constexpr std::size_t setThem = 1;
 
 bool hasSourceAttributes(const FormModel& form) {
-    return selectedAction(form) != Action::remove;
+    return form.action() != Action::remove;
 }
 
 /// An archive is no copy of the files, so compressing leaves nothing to set attributes of.
 bool hasDestAttributes(const FormModel& form) {
-    return selectedAction(form) != Action::remove && selectedAction(form) != Action::compress;
+    return form.action() != Action::remove && form.action() != Action::compress;
 }
 
 bool setsSourceAttributes(const FormModel& form) {

@@ -1,7 +1,7 @@
 #include "editor/rules/compression.h"
 
 #include "editor/NodeImages.h"
-#include "editor/rules/action.h"
+#include "editor/rules/applicability.h"
 #include "i18n/Catalogue.h"
 
 namespace kestedit {
@@ -20,22 +20,6 @@ void setArchiveFolders(FormModel& form, bool all) {
     } else {
         form.chkZipExtStruct.Visible = all;
     }
-}
-
-// The mark while files are copied or moved: folder structure first, then the choice for existing files.
-std::string_view copyMark(const FormModel& form) {
-    if (!form.chkSubFolder.isSet()) return image::none;
-    if (form.chkFStruct.isSet()) return image::applies;
-    return form.optExist[Existing::keep].State == 0 ? image::applies : image::none;
-}
-
-std::string_view extractMark(const FormModel& form) {
-    if (form.chkFStruct.isSet()) return image::applies;
-    return form.optUnZip[UnZipExisting::keep].State == 0 ? image::applies : image::none;
-}
-
-std::string_view compressMark(const FormModel& form) {
-    return form.optExist[Existing::keep].State == 0 ? image::applies : image::none;
 }
 
 }  // namespace
@@ -84,52 +68,25 @@ void PickCompressionLevel(FormModel& form) {
     if (const auto position = form.dxZipGrade.itemIndex()) form.CompressionLevel = firstLevel + *position;
 }
 
-void ApplyFolderStructure(FormModel& form) {
-    switch (selectedAction(form)) {
-        case Action::copy:
-        case Action::move:
-            return SetNodeImage(form, Page::existing, copyMark(form));
-        case Action::extract:
-            return SetNodeImage(form, Page::existing, extractMark(form));
-        case Action::remove:
-        case Action::compress:
-        case Action::synchronise:
-            return;
-    }
+std::string_view CompressionMark(const FormModel& form) {
+    const auto action = form.optAction.selected();
+    const bool applies = action == static_cast<int>(Action::compress) || action == static_cast<int>(Action::extract);
+    return applies ? image::applies : image::doesNotApply;
 }
 
-void ApplyUnZipExisting(FormModel& form, int index) {
-    if (index == form.HandledUnZipItem) return;
-    form.HandledUnZipItem = index;
-    // Compressing asks for the group of existing files here, not for the one of extracting: the page shows that group.
-    // Test: CompressionRules.ExistingFilesMarkOfCompressAndExtract.
-    if (selectedAction(form) == Action::compress) SetNodeImage(form, Page::existing, compressMark(form));
-    if (selectedAction(form) == Action::extract) {
-        SetNodeImage(form, Page::existing,
-                     form.optUnZip[UnZipExisting::keep].State == 0 ? image::applies : image::none);
-    }
+void MarkCompressionPage(FormModel& form) {
+    if (form.optAction.selected()) SetNodeImage(form, Page::compression, CompressionMark(form));
 }
 
-std::string_view DestinationMark(const FormModel& form) {
-    if (!form.optAction.selected()) return image::none;
-    switch (selectedAction(form)) {
-        case Action::copy:
-        case Action::move:
-            return copyMark(form);
-        case Action::remove:
-            return image::doesNotApply;
-        case Action::compress:
-            return compressMark(form);
-        case Action::extract:
-            return extractMark(form);
-        case Action::synchronise:
-            break;
-    }
-    return image::none;
-}
-
-void MarkDestinationPage(FormModel& form) {
-    SetNodeImage(form, Page::existing, DestinationMark(form));
+void ShowCompressionFrames(FormModel& form) {
+    const Action action = form.action();
+    form.fraZip.Visible = action == Action::compress;
+    form.fraUnZip.Visible = action == Action::extract;
+    form.lblNoOptionMsg[0].Visible = !form.fraZip.Visible && !form.fraUnZip.Visible;
+    if (form.lblNoOptionMsg[0].Visible) form.lblNoOptionMsg[0].Caption = NoOptionText(form);
+    ApplyZipAll(form);
+    ShowZipDelComp(form);
+    ShowZipDelDeComp(form);
 }
 
 }  // namespace kestedit

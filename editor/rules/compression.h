@@ -1,4 +1,4 @@
-// Compression and extraction: companions of the switches, the level, and the mark of the destination page.
+// Compression and extraction: the page's frames and its mark, companions of the switches, the level.
 #pragma once
 
 #include <string_view>
@@ -23,14 +23,10 @@ void FillCompressionLevels(FormModel& form);
 /// Change rule of dxZipGrade: the entry picked is the job's level from now on.
 void PickCompressionLevel(FormModel& form);
 
-/// Change rule of chkFStruct: marks the destination page.
-void ApplyFolderStructure(FormModel& form);
-/// Change rule of optUnZip; acts only when `index` differs from the item that it handled last.
-void ApplyUnZipExisting(FormModel& form, int index);
-
-/// Change rule of optExist, behind ApplyExist: marks the destination page for any action.
-void MarkDestinationPage(FormModel& form);
-/// Image that the destination page starts with.
-[[nodiscard]] std::string_view DestinationMark(const FormModel& form);
+/// Image of the compression page, which applies to compress and extract only, and the rule that sets it.
+[[nodiscard]] std::string_view CompressionMark(const FormModel& form);
+void MarkCompressionPage(FormModel& form);
+/// Frames of the page by action, then the rules of its check boxes.
+void ShowCompressionFrames(FormModel& form);
 
 }  // namespace kestedit

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "editor/NodeImages.h"
-#include "editor/rules/action.h"
 #include "editor/rules/applicability.h"
 
 namespace kestedit {
@@ -17,7 +16,7 @@ AgeLimit ageLimit(const FormModel& form) {
 /// A file written to the destination gets its time stamps there; one that goes into or comes out of an archive takes
 /// the archive's.
 bool setsTimeStamps(const FormModel& form) {
-    const Action action = selectedAction(form);
+    const Action action = form.action();
     return action == Action::copy || action == Action::move || action == Action::synchronise;
 }
 

@@ -1,5 +1,7 @@
-// What happens to files that exist at the destination.
+// The destination's page: what happens to files that exist there, which folders are kept, and the page's mark.
 #pragma once
+
+#include <string_view>
 
 #include "form/FormModel.h"
 
@@ -15,5 +17,21 @@ void ApplyExistingFilesPage(FormModel& form);
 /// chkDelSourceRename).
 void ApplyRenameText(FormModel& form);
 void ApplyRenameScheme(FormModel& form);
+
+/// Change rule of chkFStruct: marks the destination page.
+void ApplyFolderStructure(FormModel& form);
+/// Change rule of optUnZip; acts only when `index` differs from the item that it handled last.
+void ApplyUnZipExisting(FormModel& form, int index);
+
+/// Change rule of optExist, behind ApplyExist: marks the destination page for any action.
+void MarkDestinationPage(FormModel& form);
+/// Image that the destination page starts with.
+[[nodiscard]] std::string_view DestinationMark(const FormModel& form);
+
+/// Title of the destination page's node: synchronising gives it another one.
+void TitleDestinationNode(FormModel& form);
+
+/// Frames of the page by action, then the rule of existing files.
+void ShowDestinationFrames(FormModel& form);
 
 }  // namespace kestedit

@@ -7,6 +7,7 @@
 #include "editor/rules/compression.h"
 #include "editor/rules/conditions.h"
 #include "editor/rules/dateAge.h"
+#include "editor/rules/existing.h"
 #include "editor/rules/schedule.h"
 #include "editor/rules/selection.h"
 

@@ -6,7 +6,6 @@
 #include <optional>
 #include <vector>
 
-#include "editor/rules/action.h"
 #include "editor/rules/applicability.h"
 
 namespace kestedit {
@@ -65,7 +64,7 @@ bool watchesOwnFolder(const FormModel& form) {
 /// Whether the job deletes files at the source, or writes to it.
 bool changesSource(const FormModel& form) {
     const bool deletesRenamed = form.optExist[Existing::rename].isSet() && form.chkDelSourceRename.isSet();
-    switch (selectedAction(form)) {
+    switch (form.action()) {
         case Action::move:
         case Action::remove:
             return true;
@@ -132,7 +131,7 @@ class PathCheck {
 }  // namespace
 
 bool HasDestination(const FormModel& form) {
-    return selectedAction(form) != Action::remove;
+    return form.action() != Action::remove;
 }
 
 FolderDemands DemandsOnFolders(const FormModel& form) {

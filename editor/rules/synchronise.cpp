@@ -1,6 +1,7 @@
 #include "editor/rules/synchronise.h"
 
 #include "editor/rules/existing.h"
+#include "i18n/Catalogue.h"
 
 namespace kestedit {
 
@@ -13,6 +14,22 @@ void ApplySyncExist(FormModel& form, int /*item*/) {
 void ApplySyncStart(FormModel& form) {
     const bool bothWays = form.optSyncStart[SyncStart::bothWays].isSet();
     form.chkSyncDelete.Enabled = !bothWays;  // always this one: its Visible follows chkOnlyCompare
+}
+
+void ReflectOnlyCompare(FormModel& form) {
+    if (form.action() != Action::synchronise) return;
+    const bool comparing = form.chkOnlyCompare.isSet();
+    form.optSyncExist[SyncExisting::keep].Enabled = !comparing;
+    form.optSyncExist[SyncExisting::keep].Caption =
+        form.TextCatalogue[comparing ? catalogue::keepWhileComparing : catalogue::keepExisting];
+    form.chkSyncDelete.Visible = !comparing;
+}
+
+void ApplyOnlyCompare(FormModel& form) {
+    if (form.action() != Action::synchronise) return;
+    ReflectOnlyCompare(form);
+    form.optSyncExist.select(form.chkOnlyCompare.isSet() ? 1 : 0);
+    ApplySyncExist(form, 0);
 }
 
 }  // namespace kestedit

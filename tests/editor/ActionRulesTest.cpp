@@ -7,6 +7,7 @@
 #include "editor/NodeImages.h"
 #include "editor/rules/RefreshPageStates.h"
 #include "editor/rules/compression.h"
+#include "editor/rules/existing.h"
 #include "tests/editor/EditorFixture.h"
 
 namespace kestedit {

@@ -2,7 +2,6 @@
 #include <map>
 #include <thread>
 
-#include "editor/rules/action.h"
 #include "editor/rules/paths.h"
 #include "tests/editor/EditorFixture.h"
 
