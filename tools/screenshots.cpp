@@ -39,6 +39,7 @@ class SampleFolders final : public FileSystem {
     [[nodiscard]] std::string BuildPath(std::string_view folder, std::string_view name) const override {
         return local_.BuildPath(folder, name);
     }
+    [[nodiscard]] std::string Absolute(std::string_view path) const override { return local_.Absolute(path); }
     [[nodiscard]] std::string GetFileName(std::string_view path) const override { return local_.GetFileName(path); }
     [[nodiscard]] FolderStatus inspectFolder(const fs::path&, std::chrono::milliseconds) const override {
         return {.answered = true, .exists = true, .readable = true, .writable = true};
