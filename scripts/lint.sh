@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Checks the layout (clang-format) and the code (clang-tidy) of every tracked source; any finding is a failure.
+# Checks the layout (clang-format), the includes between folders and the code (clang-tidy) of every tracked source; any
+# finding is a failure.
 #   scripts/lint.sh [format|tidy]     (default: both)
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
@@ -10,6 +11,7 @@ scripts/setup.sh build lint
 if [[ $only != tidy ]]; then
     git ls-files -z '*.cpp' '*.h' | xargs -0 clang-format --dry-run -Werror
     echo "lint.sh: the layout is clean"
+    scripts/includes.sh
 fi
 if [[ $only != format ]]; then
     # The build makes the database of compile commands and the headers of the pages, and joins sources to units: a check
