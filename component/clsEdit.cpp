@@ -97,7 +97,8 @@ void clsEdit::raiseEvent() {
     if (state_->values.Mode == "New") {
         if (SearchJobs) SearchJobs();
     } else if (SetNewValues) {
-        SetNewValues(state_->values.SetNewValuesArgument);
+        std::string text;  // the host may write into it, and the next run says nothing of that
+        SetNewValues(text);
     }
 }
 

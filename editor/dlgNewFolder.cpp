@@ -70,14 +70,25 @@ EditorControl* dlgNewFolder::pathField() const {
     return service ? &(form_.*service->field) : nullptr;
 }
 
+void dlgNewFolder::requireOpen() const {
+    if (!open_) throw EventRefused("the dialog has closed");
+}
+
 void dlgNewFolder::onTextTyped(EditorControl& control, std::string_view text) {
+    requireOpen();
     if (&control != &dxTextEdit1) throw EventRefused(control.Name() + " takes no text");
     if (!IsStorablePath(platform_.ini.codePage(), text)) throw EventRefused(UnstorableText(texts_, text));
     dxTextEdit1.EditValue = singleLine(text);
     cmdCreate.Enabled = characterCount(text) >= shortestName;
 }
 
+void dlgNewFolder::onCloseBox() {
+    requireOpen();
+    open_ = false;
+}
+
 void dlgNewFolder::onCommand(EditorControl& control) {
+    requireOpen();
     if (&control == &cmdCancel) {
         open_ = false;
     } else if (&control == &cmdCreate) {

@@ -39,9 +39,10 @@ class KESTEDIT_EXPORT dlgNewFolder : public ControlRegistry {
     // ---- user events. Each throws EventRefused for what no user could do.
     void onTextTyped(EditorControl& control, std::string_view text);
     void onCommand(EditorControl& control);
-    void onCloseBox() { open_ = false; }
+    void onCloseBox();
 
   private:
+    void requireOpen() const;
     [[nodiscard]] EditorControl* pathField() const;
     void create();
     void reportExisting();

@@ -23,7 +23,8 @@ namespace kestedit {
 
 enum class PathFinding;
 
-/// An event that no user could cause: its control is disabled, hidden, read-only or of another kind.
+/// An event that no user could cause: its control is disabled, hidden, read-only or of another kind, or its window has
+/// closed.
 class KESTEDIT_EXPORT EventRefused : public std::invalid_argument {
   public:
     using std::invalid_argument::invalid_argument;
@@ -104,6 +105,7 @@ class KESTEDIT_EXPORT frmEdit : public FormModel {
     void tellDateChange();
     void applyNewJob();
     // events
+    void requireOpen() const;
     void requireReachable(const EditorControl& control, std::initializer_list<ControlKind> kinds) const;
     /// `typing`: the user may still be in the middle of it.
     void changed(EditorControl& control, bool typing = false);

@@ -69,7 +69,12 @@ std::optional<std::string> frmEdit::obstacle(const EditorControl& control) const
     return std::nullopt;
 }
 
+void frmEdit::requireOpen() const {
+    if (!open_) throw EventRefused("the form has closed");
+}
+
 void frmEdit::requireReachable(const EditorControl& control, std::initializer_list<ControlKind> kinds) const {
+    requireOpen();
     if (std::ranges::find(kinds, control.Kind) == kinds.end()) {
         throw EventRefused(control.Name() + " takes no such event");
     }
@@ -104,6 +109,7 @@ void frmEdit::onTextTyped(EditorControl& control, std::string_view text) {
 }
 
 void frmEdit::onEditingFinished(EditorControl& control) {
+    requireOpen();
     typing_ = nullptr;
     refreshNotices();
     if (control.Kind == ControlKind::path && &control != &dxExecPath) checkPaths();
@@ -205,6 +211,7 @@ void frmEdit::onCommand(EditorControl& control) {
 }
 
 void frmEdit::onNodeClicked(int position) {
+    requireOpen();
     if (Navigation.Nodes.empty()) return;
     if (position < 0 || position >= static_cast<int>(Navigation.Nodes.size())) {
         throw EventRefused("no navigation node " + std::to_string(position));
@@ -215,6 +222,7 @@ void frmEdit::onNodeClicked(int position) {
 
 // The list moves its focus by itself, without going round at its ends; the page follows.
 void frmEdit::onNodeKey(int keyCode) {
+    requireOpen();
     if (keyCode != keyUp && keyCode != keyDown) return;
     const int last = static_cast<int>(Navigation.Nodes.size()) - 1;
     const int wanted = Navigation.FocusedNode + (keyCode == keyUp ? -1 : 1);
@@ -222,6 +230,7 @@ void frmEdit::onNodeKey(int keyCode) {
 }
 
 void frmEdit::onMousePressed(EditorControl& control, int button) {
+    requireOpen();
     if (button != rightButton) return;
     for (const EditorControl* field : {&dxExt, &dxSize, &dxName, &dxSource, &dxDest}) {
         if (&control == field) control.SuppressContextMenu = true;
@@ -229,11 +238,13 @@ void frmEdit::onMousePressed(EditorControl& control, int button) {
 }
 
 void frmEdit::onFocused(EditorControl& control) {
+    requireOpen();
     focus(control);
     if (typing_ && typing_ != &control) onEditingFinished(*typing_);
 }
 
 void frmEdit::onTimer() {
+    requireOpen();
     if (!timerRunning_) return;
     checkPaths();
     checkSchedule();
@@ -247,6 +258,7 @@ void frmEdit::checkSchedule() {
 }
 
 void frmEdit::onCloseBox() {
+    requireOpen();
     close();
 }
 

@@ -21,9 +21,8 @@ struct ComponentValues {
     std::string HelpFile;      ///< for the help key
     std::string ViewLevel;     ///< decimal text of Show's argument
     bool Cancelled = false;
-    bool CancelCompanion = false;      ///< cleared together with Cancelled; nothing reads it
-    std::string SetNewValuesArgument;  ///< goes with the event of that name; nothing assigns it
-    bool UseBuiltInTexts = false;      ///< texts of modMessages in place of a language file; nothing sets it
+    bool CancelCompanion = false;  ///< cleared together with Cancelled; nothing reads it
+    bool UseBuiltInTexts = false;  ///< texts of modMessages in place of a language file; nothing sets it
 };
 
 }  // namespace kestedit

@@ -170,5 +170,56 @@ TEST_F(NewFolder, ExistingFolderIsReportedByField) {
     expectRefused([this] { createFolder("dxDest", "ä"); });  // a name has two characters
 }
 
+TEST_F(Events, AClosedWindowTakesNone) {
+    const std::function<void()> events[] = {
+        [this] { type("dxName", "x"); },
+        [this] { form().onEditingFinished(at("dxSource")); },
+        [this] { check("chkSubFolder"); },
+        [this] { choose("optAction", 1); },
+        [this] { pick("dxZipGrade", 1); },
+        [this] { form().onDateChosen(at("dxDate"), test::now.date); },
+        [this] { form().onTimeChosen(at("dxDateTime"), test::now.time); },
+        [this] { number("dxDays", 3); },
+        [this] { spin("dxHours", true); },
+        [this] { button("dxSource", 0); },
+        [this] { click("cmdCancel"); },
+        [this] { click("cmdSave"); },
+        [this] { node(3); },
+        [this] { form().onNodeKey(40); },
+        [this] { form().onMousePressed(at("dxName"), 2); },
+        [this] { form().onFocused(at("dxSource")); },
+        [this] { form().onTimer(); },
+        [this] { form().onCloseBox(); },
+    };
+    for (const std::string way : {"cmdSave", "cmdCancel", "close box"}) {
+        SCOPED_TRACE(way);
+        values.Cancelled = false;
+        create();
+        type("dxName", way);
+        way == "close box" ? form().onCloseBox() : click(way);
+        for (const auto& event : events)
+            expectRefused(event);
+        EXPECT_EQ(values.Cancelled, way == "cmdCancel");
+        EXPECT_EQ(form().FocusedControl, &at("dxName"));
+        EXPECT_TRUE(form().isTimerRunning());
+        EXPECT_FALSE(at("dxName").SuppressContextMenu);
+    }
+    EXPECT_EQ(jobNames(), "cmdSave.job ");
+}
+
+TEST_F(NewFolder, AClosedDialogTakesNoEvent) {
+    openFields();
+    prompts.newFolder = [](dlgNewFolder& dialog) {
+        dialog.onTextTyped(dialog.dxTextEdit1, "kept");
+        dialog.onCommand(dialog.cmdCancel);
+        EXPECT_THROW(dialog.onTextTyped(dialog.dxTextEdit1, "other"), EventRefused);
+        EXPECT_THROW(dialog.onCommand(dialog.cmdCreate), EventRefused);
+        EXPECT_THROW(dialog.onCloseBox(), EventRefused);
+        EXPECT_EQ(dialog.dxTextEdit1.text(), "kept");
+    };
+    button("dxSource", 1);
+    EXPECT_EQ(test::namesIn(jobs), "");
+}
+
 }  // namespace
 }  // namespace kestedit
