@@ -10,6 +10,7 @@
 
 #include "component/CallFailed.h"
 #include "component/HostedEditors.h"
+#include "component/events/EventFaults.h"
 #include "component/kestEdit.h"
 #include "editor/frmEdit.h"
 #include "persistence/JobFormat.h"
@@ -43,6 +44,7 @@ constexpr auto properties = std::to_array<Property>({
 });
 
 thread_local std::string lastError;
+thread_local std::string lastText;
 
 kestEdit_Result failed(kestEdit_Result result, const char* text) noexcept {
     try {
@@ -63,6 +65,10 @@ kestEdit_Result answer(Body body) noexcept {
         return failed(failure.result(), failure.what());
     } catch (const EditorOpen& failure) {
         return failed(KESTEDIT_EDITOR_OPEN, failure.what());
+    } catch (const UnknownName& fault) {
+        return failed(KESTEDIT_UNKNOWN_NAME, fault.what());
+    } catch (const WrongWord& fault) {
+        return failed(KESTEDIT_BAD_ARGUMENT, fault.what());
     } catch (const EventRefused& refusal) {
         return failed(KESTEDIT_REFUSED, refusal.what());
     } catch (const std::system_error& failure) {
@@ -93,6 +99,14 @@ Set setterOf(const char* name) {
     const bool takesText = std::holds_alternative<SetText>(found->assign);
     throw CallFailed(KESTEDIT_WRONG_TYPE,
                      "the property " + std::string(wanted) + (takesText ? " takes a text" : " takes an integer"));
+}
+
+/// The driver that shows the editor's form on this thread.
+CallbackDriver& runningDriver(kestEdit_Handle editor) {
+    static_cast<void>(editorOf(editor));
+    CallbackDriver* const driver = CallbackDriver::runningHere(editor);
+    if (!driver) throw CallFailed(KESTEDIT_REFUSED, "the form is not shown by a driver of this thread");
+    return *driver;
 }
 
 std::int16_t shortInteger(std::int32_t number) {
@@ -175,15 +189,31 @@ kestEdit_Result kestEdit_show(kestEdit_Handle editor, std::int32_t view_level) {
 kestEdit_Result kestEdit_setDriver(kestEdit_Handle editor, kestEdit_Run run, kestEdit_Ask ask, void* user) {
     return answer([=] {
         const Claim claim(editor);
-        claim->callbacks = {run, ask, user};
+        claim->callbacks.run = run;
+        claim->callbacks.ask = ask;
+        claim->callbacks.user = user;
+    });
+}
+
+kestEdit_Result kestEdit_setChoosers(kestEdit_Handle editor, kestEdit_Choose folder, kestEdit_Choose file,
+                                     kestEdit_Run new_folder, void* user) {
+    return answer([=] {
+        const Claim claim(editor);
+        claim->callbacks.folder = folder;
+        claim->callbacks.file = file;
+        claim->callbacks.newFolder = new_folder;
+        claim->callbacks.chooserUser = user;
     });
 }
 
 kestEdit_Result kestEdit_event(kestEdit_Handle editor, const char* event, const char* control, const char* text) {
+    return answer([=] { runningDriver(editor).event(given(event, "the name of the event"), control, text); });
+}
+
+kestEdit_Result kestEdit_get(kestEdit_Handle editor, const char* property, const char** text) {
     return answer([=] {
-        static_cast<void>(editorOf(editor));
-        CallbackDriver* const driver = CallbackDriver::runningHere(editor);
-        if (!driver) throw CallFailed(KESTEDIT_REFUSED, "the form is not shown by a driver of this thread");
-        driver->event(given(event, "the name of the event"), control ? control : "", text ? text : "");
+        *given(text, "the place for the text") = "";
+        lastText = runningDriver(editor).text(given(property, "the name of the property"));
+        *text = lastText.c_str();
     });
 }

@@ -2,11 +2,14 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "component/CallFailed.h"
+#include "component/events/EventFaults.h"
+#include "component/events/Properties.h"
+#include "component/events/UserEvents.h"
 #include "editor/dlgNewFolder.h"
 #include "editor/frmEdit.h"
 
@@ -31,55 +34,26 @@ class During {
     Thing before_;
 };
 
-// ---- events
-
-std::int64_t numberOf(std::string_view text) {
-    std::int64_t number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc{} || end != text.data() + text.size())
-        throw CallFailed(KESTEDIT_BAD_ARGUMENT, "\"" + std::string(text) + "\" is no whole number");
-    return number;
+/// "optAction(3)" as the words of a choice; a name alone stands for member 0.
+std::vector<std::string> memberWords(std::string_view name) {
+    const auto open = name.find('(');
+    if (open == std::string_view::npos || !name.ends_with(')')) return {std::string(name), "0"};
+    return {std::string(name.substr(0, open)), std::string(name.substr(open + 1, name.size() - open - 2))};
 }
 
-void type(frmEdit& form, EditorControl& control, std::string_view text) {
-    if (control.Kind == ControlKind::number || control.Kind == ControlKind::spin) {
-        form.onNumberTyped(control, text.empty() ? std::nullopt : std::optional(numberOf(text)));
-    } else {
-        form.onTextTyped(control, text);
+/// The words behind the verb: `name` where a control or a group stands, `text` everywhere else.
+std::vector<std::string> wordsOf(const Verb& verb, const char* name, const char* text) {
+    const auto isName = [](const ArgumentKind* kind) {
+        return kind == &arguments::control || kind == &arguments::group;
+    };
+    const std::string_view given = name ? name : "";
+    if (verb.takes[1] == &arguments::member && !text) return memberWords(given);
+    std::vector<std::string> words;
+    for (const ArgumentKind* kind : verb.takes) {
+        if (kind) words.emplace_back(isName(kind) ? given : text ? text : "");
     }
-    form.onEditingFinished(control);
+    return words;
 }
-
-void check(frmEdit& form, EditorControl& control, std::string_view text) {
-    if (text != "0" && text != "1" && text != "2")
-        throw CallFailed(KESTEDIT_BAD_ARGUMENT, "a check box takes 0, 1 or 2, not \"" + std::string(text) + '"');
-    form.onCheckClicked(control, text.front() - '0');
-}
-
-void choose(frmEdit& form, EditorControl& control, std::string_view) {
-    form.onOptionChosen(control);
-}
-
-void pick(frmEdit& form, EditorControl& control, std::string_view text) {
-    form.onItemPicked(control, text);
-}
-
-void click(frmEdit& form, EditorControl& control, std::string_view) {
-    form.onCommand(control);
-}
-
-struct Event {
-    std::string_view verb;
-    void (*act)(frmEdit& form, EditorControl& control, std::string_view text);
-};
-
-constexpr auto events = std::to_array<Event>({
-    {"type", type},
-    {"check", check},
-    {"choose", choose},
-    {"pick", pick},
-    {"click", click},
-});
 
 // ---- answers
 
@@ -114,17 +88,16 @@ void CallbackDriver::run(frmEdit& form) {
     if (form.isOpen()) form.onCommand(form.cmdCancel);
 }
 
-void CallbackDriver::event(std::string_view verb, std::string_view control, std::string_view text) {
-    if (inEvent_) throw CallFailed(KESTEDIT_BUSY, "a message box waits for its answer");
-    if (!form_->isOpen()) throw CallFailed(KESTEDIT_REFUSED, "the form has closed");
+void CallbackDriver::event(std::string_view verb, const char* name, const char* text) {
+    if (inEvent_) throw CallFailed(KESTEDIT_BUSY, "a question waits for its answer");
     const During inside(inEvent_, true);
-    if (verb == "close") return form_->onCloseBox();
-    const auto found = std::ranges::find(events, verb, &Event::verb);
-    if (found == events.end())
-        throw CallFailed(KESTEDIT_UNKNOWN_NAME, "no event is named \"" + std::string(verb) + '"');
-    EditorControl* const target = form_->find(control);
-    if (!target) throw CallFailed(KESTEDIT_UNKNOWN_NAME, "no control is named \"" + std::string(control) + '"');
-    found->act(*form_, *target, text);
+    const UserEvent* const event = findUserEvent(verb);
+    if (!event) throw UnknownName("no event is named \"" + std::string(verb) + '"');
+    perform(*event, {*form_, dialog_}, readArguments(event->verb, wordsOf(event->verb, name, text)));
+}
+
+std::string CallbackDriver::text(std::string_view property) const {
+    return propertyText({*form_, dialog_}, property);
 }
 
 Answer CallbackDriver::showMessage(const MessageBox& box) {
@@ -138,8 +111,25 @@ Answer CallbackDriver::showMessage(const MessageBox& box) {
     return answers.at(position);
 }
 
+std::optional<std::string> CallbackDriver::choose(kestEdit_Choose chooser, const std::string& title,
+                                                  const std::string& from) const {
+    const char* const path = chooser ? chooser(title.c_str(), from.c_str(), callbacks_.chooserUser) : nullptr;
+    return path ? std::optional<std::string>(path) : std::nullopt;
+}
+
+std::optional<std::string> CallbackDriver::chooseFolder(const FolderRequest& request) {
+    return choose(callbacks_.folder, request.title, request.initialPath);
+}
+
+std::optional<std::string> CallbackDriver::chooseFile(const FileRequest& request) {
+    return choose(callbacks_.file, request.title, request.filter);
+}
+
 void CallbackDriver::runNewFolder(dlgNewFolder& dialog) {
-    dialog.onCloseBox();
+    const During open(dialog_, &dialog);
+    const During answering(inEvent_, false);  // the dialog takes events of its own
+    if (callbacks_.newFolder) callbacks_.newFolder(editor_, callbacks_.chooserUser);
+    if (dialog.isOpen()) dialog.onCloseBox();
 }
 
 }  // namespace kestedit

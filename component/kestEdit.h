@@ -33,7 +33,7 @@ typedef uint64_t kestEdit_Handle;
 typedef enum kestEdit_Result {
     KESTEDIT_OK = 0,
     KESTEDIT_BAD_HANDLE = 1,   /* no editor has this handle: it is 0, was released or never created */
-    KESTEDIT_BAD_ARGUMENT = 2, /* a null pointer, or a number out of range */
+    KESTEDIT_BAD_ARGUMENT = 2, /* a null pointer, a number out of range, or a word that an event does not take */
     KESTEDIT_UNKNOWN_NAME = 3, /* no class, property, event or control has this name */
     KESTEDIT_WRONG_TYPE = 4,   /* a text for the property that takes a number, or the other way round */
     KESTEDIT_BUSY = 5,         /* the editor is being shown: the call came from inside an event or another thread */
@@ -71,7 +71,7 @@ KESTEDIT_API kestEdit_Result kestEdit_release(kestEdit_Handle editor);
  *     Language      language file
  *     PgmData       kept, and used by nothing
  *     JobExtension  what stands behind a job's name, such as ".job"
- *     HelpFile      what the help key opens
+ *     HelpFile      what the help key opens; the installed manual, if this is empty
  *
  * They keep their values between two runs, and a run may change Mode and JobFile: assign all of them again before each.
  */
@@ -122,25 +122,57 @@ typedef void (*kestEdit_Run)(kestEdit_Handle editor, void* user);
  */
 typedef int32_t (*kestEdit_Ask)(const char* title, const char* text, int32_t buttons, void* user);
 
-/*
- * A null `run` takes the driver away. Without `ask` every message box gets its careful answer: ok, no, cancel. Choosers
- * of files and folders are cancelled: a driver types paths.
- */
+/* A null `run` takes the driver away. Without `ask` every message box gets its careful answer: ok, no, cancel. */
 KESTEDIT_API kestEdit_Result kestEdit_setDriver(kestEdit_Handle editor, kestEdit_Run run, kestEdit_Ask ask, void* user);
 
 /*
- * One event of the user, only from inside `run` and on its thread, not from `ask`. `control` is a name of the form, a
- * member of a group as "optAction(3)".
+ * Answers a chooser with a path, which is copied before anything else happens, or with null to cancel. `from` is the
+ * folder that a folder chooser opens on, and the filter of a file chooser.
+ */
+typedef const char* (*kestEdit_Choose)(const char* title, const char* from, void* user);
+
+/*
+ * What the inner buttons of the path fields lead to in a driver's run; a null function cancels. `new_folder` is called
+ * while the dialog for a new folder is open: "type", "clear", "click" and "close" of kestEdit_event go to it, and its
+ * controls are dxTextEdit1, cmdCreate and cmdCancel. An open dialog is closed afterwards.
+ */
+KESTEDIT_API kestEdit_Result kestEdit_setChoosers(kestEdit_Handle editor, kestEdit_Choose folder, kestEdit_Choose file,
+                                                  kestEdit_Run new_folder, void* user);
+
+/*
+ * One event of the user, only from inside `run` or `new_folder` and on their thread, not while a question waits for its
+ * answer. The events are those of the script language. `control` is a name of the form, a member of a group as
+ * "optAction(3)"; what an event does not take is ignored, and null where it takes something means an empty text.
  *
- *     type    dxName        "Night"    the text of a field; of a number field, decimal digits
- *     check   chkSubFolder  "1"        a check box: 0, 1 or 2
- *     choose  optAction(3)  NULL       a member of an option group
- *     pick    dxZipGrade    "High"     an entry of a pick list
- *     click   cmdSave       NULL       a button
- *     close   NULL          NULL       the window's close box
+ *     type      dxName        "Night"       the text of a field; of a number field, decimal digits
+ *     check     chkSubFolder  "1"           a check box: 0, 1 or 2
+ *     choose    optAction(3)  NULL          a member of an option group; also optAction with "3"
+ *     pick      dxZipGrade    "High"        an entry of a pick list
+ *     set-date  dxDate        "2026-11-21"  a date
+ *     set-time  dxDateTime    "14:05:00"    a time of day
+ *     number    dxDays        "3"           a number
+ *     spin      dxHours       "up"          one click of a spin button: up or down
+ *     clear     dxDate        NULL          empties an editor
+ *     button    dxSource      "0"           an editor's inner button: 0 browses, 1 creates a folder
+ *     click     cmdSave       NULL          a button
+ *     node      NULL          "3"           a navigation node, from 0
+ *     key       NULL          "down"        an arrow key in the navigation list: up or down
+ *     timer     NULL          NULL          the one-shot timer, which checks the paths and the schedule
+ *     close     NULL          NULL          the window's close box
+ *
+ * The form closes with a save, a cancel or its close box. Every event behind that is refused.
  */
 KESTEDIT_API kestEdit_Result kestEdit_event(kestEdit_Handle editor, const char* event, const char* control,
                                             const char* text);
+
+/*
+ * What the form shows or holds: "dxName.EditValue", "cmdSave.Enabled", "frmEdit.JobFile". The properties are those that
+ * scripts print, in the same form: a text in double quotes with the escapes \" \\ \r \n \t, a number in decimal, True
+ * or False, 2026-11-21, 14:05:00, ["a", "b"], or Empty. *text is valid until the next kestEdit_get of this thread, and
+ * an empty text on a failure. Only from inside a driver's run and on its thread; also from `ask`, from a chooser, and
+ * when the form has closed.
+ */
+KESTEDIT_API kestEdit_Result kestEdit_get(kestEdit_Handle editor, const char* property, const char** text);
 
 #ifdef __cplusplus
 }

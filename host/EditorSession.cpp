@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "component/clsEdit.h"
+#include "component/events/PrintedText.h"
 #include "host/LanguageFile.h"
-#include "host/ScriptText.h"
 
 namespace kestedit {
 

@@ -9,11 +9,11 @@
 #include <string>
 #include <utility>
 
+#include "component/events/IsoTime.h"
+#include "component/events/PrintedText.h"
+#include "component/events/WholeNumber.h"
 #include "editor/Views.h"
-#include "host/IsoTime.h"
 #include "host/ScriptEvents.h"
-#include "host/ScriptText.h"
-#include "host/WholeNumber.h"
 #include "persistence/JobFormat.h"
 
 namespace kestedit {
@@ -61,8 +61,8 @@ auto accepted(const std::string& option, Make make) {
 std::string eventList() {
     std::ostringstream list;
     list << "A script has one event a line; # starts a comment, a word with blanks stands in double quotes:\n";
-    for (const ScriptEvent& event : scriptEvents()) {
-        list << "  " << std::left << std::setw(32) << usage(event) << event.meaning << '\n';
+    for (const Verb& verb : scriptVerbs()) {
+        list << "  " << std::left << std::setw(32) << usage(verb) << verb.meaning << '\n';
     }
     list << R"(
 Example:

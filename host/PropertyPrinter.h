@@ -4,22 +4,17 @@
 #include <ostream>
 #include <string_view>
 
-#include "form/EditorControl.h"
+#include "component/events/OpenWindows.h"
 
 namespace kestedit {
-
-class dlgNewFolder;
-class frmEdit;
 
 /// Prints a form and, while it stands in front, the new-folder dialog.
 class PropertyPrinter {
   public:
-    /// `dialog` is null while none is open. All must outlive the printer.
-    PropertyPrinter(const frmEdit& form, const dlgNewFolder* dialog, std::ostream& out)
-        : form_(form), dialog_(dialog), out_(out) {}
+    /// `out` must outlive the printer.
+    PropertyPrinter(const OpenWindows& windows, std::ostream& out) : windows_(windows), out_(out) {}
 
-    /// `NAME.PROPERTY = VALUE`, the name as the script has it. Throws std::invalid_argument for one that does not
-    /// exist.
+    /// `NAME.PROPERTY = VALUE`, the name as the script has it. Throws what propertyText throws.
     void print(std::string_view name) const;
     /// `node POSITION "TITLE" "IMAGE"`, ` *` behind the focused one.
     void printNodes() const;
@@ -31,11 +26,7 @@ class PropertyPrinter {
     void printAll() const;
 
   private:
-    [[nodiscard]] const ControlRegistry& front() const;
-    [[nodiscard]] const EditorControl& control(std::string_view name) const;
-
-    const frmEdit& form_;
-    const dlgNewFolder* dialog_;
+    OpenWindows windows_;
     std::ostream& out_;
 };
 

@@ -1,7 +1,5 @@
 #include "host/ScriptDriver.h"
 
-#include <stdexcept>
-#include <string>
 #include <utility>
 
 namespace kestedit {
@@ -29,9 +27,7 @@ ScriptDriver::ScriptDriver(std::vector<ScriptStep> steps, ScriptPrompts& prompts
 }
 
 void ScriptDriver::queueFirstAnswers() {
-    const auto isAnswer = [](const ScriptStep& step) {
-        return step.event && step.event->role == ScriptEvent::Role::answer;
-    };
+    const auto isAnswer = [](const ScriptStep& step) { return step.own && step.own->answers; };
     while (!atEnd() && isAnswer(steps_[next_]))
         execute(steps_[next_++]);
 }
@@ -55,34 +51,15 @@ void ScriptDriver::runNewFolder(dlgNewFolder& dialog) {
 }
 
 void ScriptDriver::execute(const ScriptStep& step) {
-    if (!step.event) throw ScriptFailure(step.line, step.fault);
     try {
-        requireOpen(step.event->role);
-        step.event->run(*this, step.arguments);
+        if (step.event) return perform(*step.event, {*form_, dialog_}, step.arguments);
+        if (step.own) return step.own->run(*this, step.arguments);
+        throw ScriptFailure(step.line, step.fault);
     } catch (const ScriptFailure&) {
-        throw;  // a line of the dialog that this line has opened
+        throw;  // this line's own, or that of a line of the dialog that it has opened
     } catch (const std::exception& fault) {
         throw ScriptFailure(step.line, fault.what());
     }
-}
-
-void ScriptDriver::requireOpen(ScriptEvent::Role role) const {
-    using Role = ScriptEvent::Role;
-    if (role != Role::formEvent && role != Role::windowEvent) return;
-    if (!form_->isOpen()) throw std::invalid_argument("the form has closed");
-    if (role == Role::formEvent && dialog_) throw std::invalid_argument("dlgNewFolder is in front of the form");
-}
-
-EditorControl& ScriptDriver::control(std::string_view name) const {
-    const ControlRegistry* const registry = dialog_ ? static_cast<const ControlRegistry*>(dialog_) : form_;
-    return registry->at(name);
-}
-
-EditorControl& ScriptDriver::member(std::string_view group, int index) const {
-    for (EditorControl* candidate : form_->group(group)) {
-        if (candidate->Member == index) return *candidate;
-    }
-    throw std::invalid_argument("no control named " + std::string(group) + '(' + std::to_string(index) + ')');
 }
 
 }  // namespace kestedit

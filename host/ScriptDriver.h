@@ -3,7 +3,6 @@
 
 #include <optional>
 #include <ostream>
-#include <string_view>
 #include <vector>
 
 #include "component/ModalRun.h"
@@ -32,20 +31,14 @@ class ScriptDriver final : public ModalRun {
     /// The line that stopped the run, if one did.
     [[nodiscard]] const std::optional<ScriptFailure>& failure() const { return failure_; }
 
-    // ---- for the table of events, while the form is open
-    [[nodiscard]] frmEdit& form() const { return *form_; }
-    /// Null unless it stands in front of the form.
-    [[nodiscard]] dlgNewFolder* dialog() const { return dialog_; }
+    // ---- for the table of verbs
     [[nodiscard]] ScriptPrompts& prompts() const { return prompts_; }
-    [[nodiscard]] PropertyPrinter printer() const { return {*form_, dialog_, out_}; }
-    /// A control of the window in front; throws std::invalid_argument for a name that it does not have.
-    [[nodiscard]] EditorControl& control(std::string_view name) const;
-    [[nodiscard]] EditorControl& member(std::string_view group, int index) const;
+    /// While the form is shown.
+    [[nodiscard]] PropertyPrinter printer() const { return {{*form_, dialog_}, out_}; }
 
   private:
     void runNewFolder(dlgNewFolder& dialog);
     void execute(const ScriptStep& step);
-    void requireOpen(ScriptEvent::Role role) const;
     [[nodiscard]] bool atEnd() const { return next_ == steps_.size(); }
 
     const std::vector<ScriptStep> steps_;
@@ -53,7 +46,7 @@ class ScriptDriver final : public ModalRun {
     ScriptPrompts& prompts_;
     std::ostream& out_;
     frmEdit* form_ = nullptr;         // not owned; set during run
-    dlgNewFolder* dialog_ = nullptr;  // not owned; set while it is open
+    dlgNewFolder* dialog_ = nullptr;  // not owned; set while it stands in front
     std::optional<ScriptFailure> failure_;
 };
 

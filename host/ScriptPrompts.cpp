@@ -6,7 +6,7 @@
 #include <string_view>
 #include <utility>
 
-#include "host/ScriptText.h"
+#include "component/events/PrintedText.h"
 
 namespace kestedit {
 

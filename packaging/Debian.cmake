@@ -10,7 +10,7 @@ foreach(package IN LISTS kestEdit_packages)
   install(FILES copyright DESTINATION ${documents} COMPONENT ${package} EXCLUDE_FROM_ALL)
   install(FILES ${CMAKE_CURRENT_BINARY_DIR}/changelog.gz DESTINATION ${documents} COMPONENT ${package} EXCLUDE_FROM_ALL)
 endforeach()
-install(FILES ${PROJECT_SOURCE_DIR}/docs/embedding.md ${PROJECT_SOURCE_DIR}/docs/job-file.md
+install(FILES ${PROJECT_SOURCE_DIR}/docs/embedding.md ${PROJECT_SOURCE_DIR}/docs/job-file.md ${PROJECT_SOURCE_DIR}/docs/script.md
   DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/libkestedit-dev COMPONENT libkestedit-dev EXCLUDE_FROM_ALL)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples
   DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/libkestedit-dev COMPONENT libkestedit-dev EXCLUDE_FROM_ALL)

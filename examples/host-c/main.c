@@ -23,6 +23,11 @@ static void fillForm(kestEdit_Handle editor, void* user) {
     require(kestEdit_event(editor, "type", "dxSource", "/var/log"));
     require(kestEdit_event(editor, "type", "dxDest", "/var/backups"));
     require(kestEdit_event(editor, "choose", "optAction(3)", NULL));
+    require(kestEdit_event(editor, "choose", "optIntervall(1)", NULL));
+    require(kestEdit_event(editor, "set-time", "dxDateTime", "18:30:00"));
+    const char* time = NULL;
+    require(kestEdit_get(editor, "dxDateTime.EditValue", &time));
+    printf("every day at %s\n", time);
     require(kestEdit_event(editor, "click", "cmdSave", NULL));
 }
 

@@ -13,11 +13,15 @@ import kestedit
 def create(editor, name):
     def fill(form):
         form.event("type", "dxName", name)
-        form.event("type", "dxSource", "/var/log")
+        form.event("button", "dxSource", "0")  # browses
         form.event("type", "dxDest", "/var/backups")
+        form.event("choose", "optIntervall(1)")
+        form.event("set-time", "dxDateTime", "18:30:00")
+        print(form.get("dxSource.EditValue"), "every day at", form.get("dxDateTime.EditValue"))
         form.event("click", "cmdSave")
 
     editor.set("Mode", "New")
+    editor.choosers(folder=lambda title, start: "/var/log")
     editor.drive(fill)
     editor.show()
 

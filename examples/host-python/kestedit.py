@@ -14,6 +14,7 @@ SET_NEW_VALUES = CFUNCTYPE(None, c_char_p, c_void_p)
 SEARCH_JOBS = CFUNCTYPE(None, c_void_p)
 RUN = CFUNCTYPE(None, c_uint64, c_void_p)
 ASK = CFUNCTYPE(c_int32, c_char_p, c_char_p, c_int32, c_void_p)
+CHOOSE = CFUNCTYPE(c_void_p, c_char_p, c_char_p, c_void_p)
 
 _functions = {
     "kestEdit_create": [c_char_p, POINTER(c_uint64)],
@@ -23,7 +24,9 @@ _functions = {
     "kestEdit_onSetNewValues": [c_uint64, SET_NEW_VALUES, c_void_p],
     "kestEdit_onSearchJobs": [c_uint64, SEARCH_JOBS, c_void_p],
     "kestEdit_setDriver": [c_uint64, RUN, ASK, c_void_p],
+    "kestEdit_setChoosers": [c_uint64, CHOOSE, CHOOSE, RUN, c_void_p],
     "kestEdit_event": [c_uint64, c_char_p, c_char_p, c_char_p],
+    "kestEdit_get": [c_uint64, c_char_p, POINTER(c_char_p)],
     "kestEdit_show": [c_uint64, c_int32],
 }
 
@@ -51,6 +54,10 @@ def _call(name, *arguments):
 
 def _bytes(text):
     return None if text is None else text.encode(errors="surrogateescape")
+
+
+def _text(given):
+    return given.decode(errors="surrogateescape")
 
 
 def use_desktop():
@@ -86,6 +93,28 @@ class Editor:
         self._kept["ask"] = ASK(lambda title, text, buttons, user: ask(title.decode(), text.decode(), buttons)) \
             if ask else ASK()
         _call("kestEdit_setDriver", self._handle, self._kept["run"], self._kept["ask"], None)
+
+    def choosers(self, folder=None, file=None, new_folder=None):
+        """folder(title, start) and file(title, filter) give a path or None; new_folder(editor) drives that dialog."""
+        self._kept["folder"] = self._chooser("folder path", folder)
+        self._kept["file"] = self._chooser("file path", file)
+        self._kept["new folder"] = RUN(lambda editor, user: new_folder(self)) if new_folder else RUN()
+        _call("kestEdit_setChoosers", self._handle, self._kept["folder"], self._kept["file"],
+              self._kept["new folder"], None)
+
+    def _chooser(self, place, choose):
+        def answer(title, start, user):
+            path = choose(_text(title), _text(start))
+            # The library reads the path when this has returned.
+            self._kept[place] = None if path is None else ctypes.create_string_buffer(_bytes(path))
+            return None if path is None else ctypes.addressof(self._kept[place])
+        return CHOOSE(answer) if choose else CHOOSE()
+
+    def get(self, name):
+        """A property such as "dxName.EditValue", as scripts print it."""
+        text = c_char_p()
+        _call("kestEdit_get", self._handle, _bytes(name), text)
+        return _text(text.value)
 
     def event(self, event, control=None, text=None):
         _call("kestEdit_event", self._handle, _bytes(event), _bytes(control), _bytes(text))

@@ -39,6 +39,12 @@ class CInterfaceTest : public testing::Test {
         script_ = std::move(script);
         EXPECT_EQ(kestEdit_show(editor_, 4), expected) << kestEdit_lastError();
     }
+    /// The value of a property, or an empty text when it is answered by another code.
+    std::string got(const char* property, kestEdit_Result expected = KESTEDIT_OK) const {
+        const char* text = nullptr;
+        EXPECT_EQ(kestEdit_get(editor_, property, &text), expected) << kestEdit_lastError();
+        return text;
+    }
     kestEdit_Result event(const char* verb, const char* control = nullptr, const char* text = nullptr) const {
         return kestEdit_event(editor_, verb, control, text);
     }
@@ -52,6 +58,10 @@ class CInterfaceTest : public testing::Test {
     static std::int32_t ask(const char* title, const char* text, std::int32_t, void* user) {
         return self(user).answer_(std::string(title) + ": " + text);
     }
+    static const char* choose(const char* title, const char* from, void* user) {
+        return self(user).choose_(title, from);
+    }
+    static void newFolder(kestEdit_Handle, void* user) { self(user).newFolder_(); }
     static void searchJobs(void* user) { self(user).hear_("SearchJobs"); }
     static void setNewValues(const char* text, void* user) { self(user).hear_("SetNewValues" + std::string(text)); }
 
@@ -59,6 +69,8 @@ class CInterfaceTest : public testing::Test {
     const std::filesystem::path job_ = folder_.path() / "Night.job";
     std::function<void()> script_;
     std::function<int(std::string)> answer_;
+    std::function<const char*(std::string, std::string)> choose_;
+    std::function<void()> newFolder_;
     std::function<void(std::string)> hear_ = [this](const std::string& event) { heard_ += event + ";"; };
     std::string heard_;
     const kestEdit_Handle editor_;
@@ -184,6 +196,84 @@ TEST_F(CInterfaceTest, CallsFromInsideARunAnEventOrAnotherThreadAreAnswered) {
     });
     EXPECT_EQ(heard_, "misbehaved;misbehaved;misbehaved;");
     EXPECT_EQ(kestEdit_release(other), KESTEDIT_OK);
+}
+
+TEST_F(CInterfaceTest, PropertiesAreReadAsScriptsPrintThem) {
+    answer_ = [&](const std::string&) {
+        EXPECT_EQ(got("dxName.EditValue"), "\"Night\"");
+        return KESTEDIT_ANSWER_NO;
+    };
+    static_cast<void>(folder_.file("Night.job", ""));
+    show([&] {
+        EXPECT_EQ(event("type", "dxComment", "a\n\"ä\""), KESTEDIT_OK);
+        const std::pair<const char*, const char*> values[] = {
+            {"dxComment.EditValue", "\"a\\r\\n\\\"ä\\\"\""},
+            {"dxHours.EditValue", "1"},
+            {"dxSize.EditValue", "Empty"},
+            {"cmdSave.Enabled", "True"},
+            {"dxZipGrade.Items", R"(["None", "Low", "Normal", "High"])"},
+            {"frmEdit.Mode", "\"New\""},
+        };
+        for (const auto& [property, value] : values)
+            EXPECT_EQ(got(property), value);
+        const std::tuple<const char*, kestEdit_Result, const char*> mistakes[] = {
+            {"dxNobody.State", KESTEDIT_UNKNOWN_NAME, "no control named dxNobody"},
+            {"dxName.Size", KESTEDIT_UNKNOWN_NAME, "dxName has no property Size"},
+            {"frmEdit.TextCatalogue(85)", KESTEDIT_UNKNOWN_NAME, "frmEdit has no property TextCatalogue(85)"},
+            {"dxName", KESTEDIT_BAD_ARGUMENT, "\"dxName\" is not a name, a dot and a property"},
+            {"dlgNewFolder.Caption", KESTEDIT_REFUSED, "dlgNewFolder is not open"},
+            {nullptr, KESTEDIT_BAD_ARGUMENT, "the name of the property is null"},
+        };
+        for (const auto& [property, result, reason] : mistakes) {
+            EXPECT_EQ(got(property, result), "");
+            EXPECT_STREQ(kestEdit_lastError(), reason);
+        }
+        EXPECT_EQ(kestEdit_get(editor_, "dxName.State", nullptr), KESTEDIT_BAD_ARGUMENT);
+        save();
+        EXPECT_EQ(event("close"), KESTEDIT_OK);
+        EXPECT_EQ(got("dxName.EditValue"), "\"Night\"") << "of a closed form, too";
+    });
+    EXPECT_EQ(got("dxName.EditValue", KESTEDIT_REFUSED), "");
+}
+
+TEST_F(CInterfaceTest, InnerButtonsLeadToTheHostsChoosersAndDialog) {
+    const std::string path = folder_.path().string();
+    show([&] {
+        for (const char* button : {"0", "1"})
+            EXPECT_EQ(event("button", "dxSource", button), KESTEDIT_OK) << "cancelled without a chooser";
+        EXPECT_EQ(got("dxSource.EditValue"), "\"\"");
+    });
+    kestEdit_setChoosers(editor_, &choose, &choose, &newFolder, this);
+    choose_ = [&](const std::string& title, const std::string& from) {
+        heard_ += title + from + ";";
+        EXPECT_EQ(event("click", "cmdCancel"), KESTEDIT_BUSY);
+        return title.starts_with("Select source") ? path.c_str() : "/bin/true";
+    };
+    answer_ = [](const std::string&) { return KESTEDIT_ANSWER_OK; };  // the folder exists
+    newFolder_ = [&] {
+        EXPECT_EQ(event("check", "chkSubFolder", "1"), KESTEDIT_REFUSED);
+        EXPECT_STREQ(kestEdit_lastError(), "dlgNewFolder is in front of the form");
+        EXPECT_EQ(event("type", "dxName", "x"), KESTEDIT_UNKNOWN_NAME);
+        EXPECT_NE(got("dlgNewFolder.Caption"), "\"\"");
+        for (const char* name : {"old", "new"}) {
+            EXPECT_EQ(event("type", "dxTextEdit1", name), KESTEDIT_OK);
+            EXPECT_EQ(event("click", "cmdCreate"), KESTEDIT_OK);
+        }
+        EXPECT_EQ(event("close"), KESTEDIT_REFUSED);
+        EXPECT_STREQ(kestEdit_lastError(), "the dialog has closed");
+    };
+    std::filesystem::create_directory(folder_.path() / "old");
+    show([&] {
+        EXPECT_EQ(event("button", "dxSource", "0"), KESTEDIT_OK);
+        EXPECT_EQ(got("dxSource.EditValue"), '"' + path + '"');
+        EXPECT_EQ(event("button", "dxSource", "1"), KESTEDIT_OK);
+        EXPECT_EQ(got("dxSource.EditValue"), '"' + path + "/new\"");
+        EXPECT_EQ(event("check", "chkExecDo", "1"), KESTEDIT_OK);
+        EXPECT_EQ(event("button", "dxExecPath", "0"), KESTEDIT_OK);
+        EXPECT_EQ(got("dxExecPath.EditValue"), "\"/bin/true\"");
+    });
+    EXPECT_TRUE(heard_.starts_with("Select source folder:;Select program")) << heard_;
+    EXPECT_TRUE(std::filesystem::is_directory(folder_.path() / "new"));
 }
 
 // A host in C++ may throw out of its callbacks: it gets a code, and the next run finds the editor unharmed.

@@ -1,9 +1,9 @@
 // Any text as a script: its words come back from their printed form, and a line that cannot be read says why.
 #include <algorithm>
 
+#include "component/events/PrintedText.h"
 #include "host/ScriptEvents.h"
 #include "host/ScriptParser.h"
-#include "host/ScriptText.h"
 #include "tests/fuzz/Fuzzing.h"
 
 using namespace kestedit;

@@ -3,8 +3,8 @@
 #include <tuple>
 #include <vector>
 
+#include "component/events/PrintedText.h"
 #include "host/ScriptParser.h"
-#include "host/ScriptText.h"
 #include "tests/host/ProgramFixture.h"
 
 namespace kestedit {

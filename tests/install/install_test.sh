@@ -108,13 +108,15 @@ find "$work/static" -name '*.so*' -delete
 ! objdump -p "$work/by-archive" | grep -q 'NEEDED.*kestEdit' || fail "by-archive needs the shared library"
 for host in host-c/host-c by-pkg-config by-archive; do
     folder=$(jobs "$(basename "$host")")
-    expect "$host" "event: look for Night.job" "$("$work/$host" "$folder" Night "$english")"
+    expect "$host" "every day at 18:30:00
+event: look for Night.job" "$("$work/$host" "$folder" Night "$english")"
     grep -q $'^Action=3\r$' "$folder/Night.job" || fail "$host has not saved the action"
 done
 
 step "a host in Python"
 if command -v python3 >/dev/null; then
-    expect "host.py" 'event: a new job
+    expect "host.py" '"/var/log" every day at 18:30:00
+event: a new job
 refused: chkSubFolder takes no such event
 event: the job has changed, ""' \
         "$(python3 "$source_folder/examples/host-python/host.py" "$(jobs python)" Night "$english")"

@@ -1,4 +1,4 @@
-// Values as a script prints them. docs/script.md gives the forms to users.
+// Values in their printed form, the one of scripts and of the C interface. docs/script.md gives it to users.
 #pragma once
 
 #include <cstdint>

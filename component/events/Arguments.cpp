@@ -1,11 +1,9 @@
-#include "host/ScriptArguments.h"
+#include "component/events/Arguments.h"
 
-#include <array>
 #include <limits>
-#include <utility>
 
-#include "host/IsoTime.h"
-#include "host/WholeNumber.h"
+#include "component/events/IsoTime.h"
+#include "component/events/WholeNumber.h"
 
 namespace kestedit::arguments {
 
@@ -52,19 +50,6 @@ std::optional<Argument> readDate(const std::string& word) {
 
 std::optional<Argument> readTime(const std::string& word) {
     if (const auto moment = parseIsoTime(word)) return *moment;
-    return std::nullopt;
-}
-
-std::optional<Argument> readAnswer(const std::string& word) {
-    constexpr std::array<std::pair<std::string_view, Answer>, 6> answers{{{"ok", Answer::ok},
-                                                                          {"yes", Answer::yes},
-                                                                          {"no", Answer::no},
-                                                                          {"cancel", Answer::cancel},
-                                                                          {"retry", Answer::retry},
-                                                                          {"continue", Answer::proceed}}};
-    for (const auto& [name, meant] : answers) {
-        if (name == word) return meant;
-    }
     return std::nullopt;
 }
 

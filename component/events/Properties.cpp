@@ -1,14 +1,16 @@
-#include "host/Properties.h"
+#include "component/events/Properties.h"
 
 #include <algorithm>
 #include <array>
 #include <limits>
-#include <stdexcept>
 
+#include "component/events/Arguments.h"
+#include "component/events/EventFaults.h"
+#include "component/events/OpenWindows.h"
+#include "component/events/PrintedText.h"
+#include "component/events/WholeNumber.h"
 #include "editor/dlgNewFolder.h"
 #include "editor/frmEdit.h"
-#include "host/ScriptText.h"
-#include "host/WholeNumber.h"
 
 namespace kestedit {
 
@@ -85,14 +87,14 @@ constexpr auto lists = std::to_array<FormList>({
 });
 // clang-format on
 
-std::invalid_argument unknown(std::string_view owner, std::string_view property) {
-    return std::invalid_argument(std::string(owner) + " has no property " + std::string(property));
+UnknownName unknown(std::string_view owner, std::string_view property) {
+    return UnknownName(std::string(owner) + " has no property " + std::string(property));
 }
 
-}  // namespace
-
-std::span<const ControlProperty> controlProperties() {
-    return properties;
+/// The form stays visible behind the dialog; only a name that both have means the one in front.
+const EditorControl& visibleControl(const OpenWindows& windows, std::string_view name) {
+    const EditorControl* const inFront = windows.front().find(name);
+    return inFront ? *inFront : OpenWindows{windows.form}.control(name);
 }
 
 std::string controlText(const EditorControl& control, std::string_view property) {
@@ -120,6 +122,24 @@ std::string dialogText(const dlgNewFolder& dialog, std::string_view field) {
     if (field == "Caption") return quotedText(dialog.Caption);
     if (field == "BackColour") return dialog.BackColour ? std::to_string(*dialog.BackColour) : std::string(emptyText);
     throw unknown("dlgNewFolder", field);
+}
+
+}  // namespace
+
+std::span<const ControlProperty> controlProperties() {
+    return properties;
+}
+
+std::string propertyText(const OpenWindows& windows, std::string_view name) {
+    const auto dot = name.find('.');
+    if (dot == std::string_view::npos)
+        throw WrongWord(quotedText(name) + " is not " + std::string(arguments::property.wanted));
+    const std::string_view owner = name.substr(0, dot);
+    const std::string_view property = name.substr(dot + 1);
+    if (owner == "frmEdit") return formText(windows.form, property);
+    if (owner != "dlgNewFolder") return controlText(visibleControl(windows, owner), property);
+    if (!windows.dialog) throw EventRefused("dlgNewFolder is not open");
+    return dialogText(*windows.dialog, property);
 }
 
 }  // namespace kestedit

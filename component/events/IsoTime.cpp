@@ -1,4 +1,4 @@
-#include "host/IsoTime.h"
+#include "component/events/IsoTime.h"
 
 #include "platform/DateFormat.h"
 

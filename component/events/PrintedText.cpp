@@ -1,6 +1,6 @@
-#include "host/ScriptText.h"
+#include "component/events/PrintedText.h"
 
-#include "host/IsoTime.h"
+#include "component/events/IsoTime.h"
 #include "platform/DateFormat.h"
 #include "platform/Text.h"
 
