@@ -140,16 +140,11 @@ void FormWindow::tellFailure(const std::string& reason) {
 }
 
 void FormWindow::showHelp() {
-    if (handling_) return;
-    const std::string& file = form_.values().HelpFile;
-    if (!file.empty() && form_.platform().files.FileExists(file)) {
-        QDesktopServices::openUrl(QUrl::fromLocalFile(toQt(file)));
-        return;
-    }
-    const std::string text = file.empty() ? textOf(form_.texts(), TextId::noHelp)
-                                          : textOf(form_.texts(), TextId::helpMissing) + "\r\n" + file;
-    static_cast<void>(
-        form_.platform().prompts.showMessage({form_.values().AppTitle, text, Buttons::ok, MessageIcon::information}));
+    hand([this](frmEdit& form) {
+        const auto file = form.onHelpKey();
+        if (!file || QDesktopServices::openUrl(QUrl::fromLocalFile(toQt(*file)))) return;
+        tellFailure(textOf(form.texts(), TextId::helpNotOpened) + "\r\n" + *file);
+    });
 }
 
 // ---- showing

@@ -89,6 +89,9 @@ class KESTEDIT_EXPORT frmEdit : public FormModel {
     void onFocused(EditorControl& control);
     /// The one-shot timer; does nothing when it has fired before.
     void onTimer();
+    /// The help key: the file to open, the host's own or the installed manual in the language of the texts. Without one
+    /// it tells the user so and gives nothing.
+    [[nodiscard]] std::optional<std::string> onHelpKey();
     /// The window's close box: ends the editing without setting Cancelled.
     void onCloseBox();
 
@@ -119,6 +122,7 @@ class KESTEDIT_EXPORT frmEdit : public FormModel {
     void browsePath(EditorControl& control);
     void browseExecPath(int button);
     void createFolder(EditorControl& control);
+    [[nodiscard]] std::string installedManual() const;
     // saving
     [[nodiscard]] bool validate();
     void reportInvalid(EditorControl& control, std::size_t message);

@@ -209,7 +209,7 @@ void CommandLine::addEditorOptions(CLI::App& command) {
     text("--language", editor_.language, "FILE", "Language file (default: by the user's locale)");
     text("--settings", editor_.settings, "FILE", "Program settings (default: a file of the user's own)");
     text("--title", editor_.title, "TEXT", "Title of the window and its messages (default: kestEdit)");
-    text("--help-file", editor_.helpFile, "FILE", "What the help key opens");
+    text("--help-file", editor_.helpFile, "FILE", "What the help key opens (default: the manual)");
     addCodePage(command, editor_.codePage);
     checked("--now", "YYYY-MM-DDTHH:MM:SS", "A clock that stands still", [this](const std::string& given) {
         editor_.now = parseIsoMoment(given);

@@ -94,6 +94,8 @@ constexpr auto rows = std::to_array<TextRow>({
     {hidePassword,           "Window",         "t3",   "Passwort verbergen", "Hide password"},
     {noHelp,                 "Window",         "t4",   "Für dieses Programm ist keine Hilfe vorhanden.", "This program has no help."},
     {helpMissing,            "Window",         "t5",   "Die Hilfedatei wurde nicht gefunden:", "The help file was not found:"},
+    {helpNotOpened,          "Window",         "t160", "Die Hilfe lässt sich hier nicht öffnen. Sie steht in der Datei:", "The help cannot be opened here. It stands in the file:"},
+    {manualFile,             "Window",         "t161", "manual.de.html", "manual.html"},
     {jobActive,              "Window",         "t6",   "Der Auftrag ist aktiv", "The job is active"},
     {jobInactive,            "Window",         "t7",   "Der Auftrag ist inaktiv", "The job is inactive"},
     {pageApplies,            "Window",         "t8",   "Diese Seite ändert, was der Auftrag tut", "This page changes what the job does"},

@@ -93,6 +93,8 @@ enum class TextId : std::uint8_t {
     hidePassword,
     noHelp,
     helpMissing,
+    helpNotOpened,
+    manualFile,
     // what a node's sign means
     jobActive,
     jobInactive,

@@ -56,9 +56,9 @@ debian_package(kestedit utils kestedit-data
   "This package has the program, with a window and with scripts in
 place of one.")
 debian_package(kestedit-data utils ""
-  "texts and icons of the job editor kestEdit"
-  "This package has the language files, for the program and for hosts
-of the component.")
+  "texts, manual and icons of the job editor kestEdit"
+  "This package has the language files and the manual, for the program
+and for hosts of the component.")
 debian_package(libkestedit1 libs ""
   "editor for the jobs of a file-transfer automation, as a component"
   "This package has the component that host programs load, without its

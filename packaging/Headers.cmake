@@ -8,6 +8,7 @@ set(public_headers
   component/kestEdit.h
   platform/Clock.h
   platform/CodePage.h
+  platform/DataFolder.h
   platform/DateFormat.h
   platform/DateTime.h
   platform/Export.h

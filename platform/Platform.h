@@ -1,6 +1,9 @@
 // What the system offers to the editor, in one bundle that a host or a test puts together.
 #pragma once
 
+#include <filesystem>
+#include <optional>
+
 #include "platform/Clock.h"
 #include "platform/DateFormat.h"
 #include "platform/FileSystem.h"
@@ -10,7 +13,7 @@
 
 namespace kestedit {
 
-/// References only: whoever builds the bundle owns what stands behind it, and must keep it alive for as long as an
+/// Owns nothing: whoever builds the bundle owns what stands behind it, and must keep it alive for as long as an
 /// editor that uses it is open.
 struct Platform {
     IniStore& ini;
@@ -19,6 +22,8 @@ struct Platform {
     const DateFormat& dates;
     Prompts& prompts;
     UserSettings& settings;
+    /// Where the manual stands, in a folder of that name; nothing: in dataFolder().
+    std::optional<std::filesystem::path> data = std::nullopt;
 };
 
 }  // namespace kestedit

@@ -14,6 +14,7 @@ build=(
     qt6-svg-dev
     pkg-config
     python3
+    cmark-gfm
 )
 bench=(
     libbenchmark-dev

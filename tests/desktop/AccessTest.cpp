@@ -1,10 +1,13 @@
 // The window for those who have no mouse or do not see it: keys, letters to press with Alt, names that are read out.
 #include <QAbstractButton>
+#include <QDesktopServices>
 #include <QKeySequence>
 #include <QLabel>
+#include <QTextBrowser>
 #include <algorithm>
 #include <map>
 #include <set>
+#include <tuple>
 
 #include "tests/desktop/WindowFixture.h"
 
@@ -78,13 +81,43 @@ TEST_F(Keyboard, KeysWalkTheListThePageFollowsAndArrowsLeadThroughAnOptionGroup)
     EXPECT_FALSE(at("optSize(1)").isSet());
 }
 
-TEST_F(Keyboard, ControlSSavesEscapeCancelsReturnDoesNeitherAndF1TellsThatThereIsNoHelp) {
-    values.HelpFile = (folder.path() / "help.html").string();
+TEST_F(Keyboard, F1OpensTheHostsHelpOrTheManualInTheWindowsLanguageOrTellsThatThereIsNone) {
+    const std::string path = folder.path().string();
+    std::filesystem::create_directories(folder.path() / "manual");
+    for (const char* name : {"help.html", "manual/manual.html", "manual/manual.de.html"})
+        folder.file(name, "<p>Help</p>");
+    const std::tuple<std::string, const char*, const char*, std::string> cases[] = {
+        {"", "english", "", "opens /manual/manual.html"},
+        {"", "german", "", "opens /manual/manual.de.html"},
+        {"", "english", "/none", "This program has no help."},
+        {"/help.html", "german", "", "opens /help.html"},
+        {"/gone.html", "english", "", "The help file was not found:\r\n/gone.html"},
+    };
+    QTextBrowser browser;
+    QDesktopServices::setUrlHandler("file", &browser, "setSource");
+    const auto pressed = [&] {
+        prompts.messages.clear();
+        prompts.answers = {Answer::ok};
+        QTest::keyClick(&window(), Qt::Key_F1);
+        std::string happened =
+            prompts.messages.empty() ? "opens " + fromQt(browser.source().toLocalFile()) : prompts.messages[0].text;
+        if (const auto at = happened.find(path); at != std::string::npos) happened.erase(at, path.size());
+        return happened;
+    };
+    for (const auto& [own, language, data, expected] : cases) {
+        values.HelpFile = own.empty() ? "" : path + own;
+        setLanguage(language);
+        platform.data = path + data;
+        open();
+        EXPECT_EQ(pressed(), expected);
+    }
+    QDesktopServices::unsetUrlHandler("file");
+    values.HelpFile = path + "/help.html";
+    EXPECT_EQ(pressed(), "The help cannot be opened here. It stands in the file:\r\n/help.html");
+}
+
+TEST_F(Keyboard, ControlSSavesEscapeCancelsAndReturnDoesNeither) {
     open();
-    prompts.answers = {Answer::ok};
-    QTest::keyClick(&window(), Qt::Key_F1);
-    ASSERT_EQ(prompts.messages.size(), 1U);
-    EXPECT_TRUE(prompts.messages[0].text.ends_with(values.HelpFile)) << prompts.messages[0].text;
     enter("dxName", "Backup");
     QTest::keyClick(&line("dxName"), Qt::Key_Return);
     EXPECT_EQ(visibleFrames(), "fraComment");

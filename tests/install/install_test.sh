@@ -34,7 +34,7 @@ english=$(pkg-config --variable=langdir kestEdit)/english.lng
 step "everything is in its place"
 for file in bin/kestedit share/man/man1/kestedit.1.gz share/bash-completion/completions/kestedit \
     share/icons/hicolor/scalable/apps/kestedit.svg share/mime/packages/kestedit.xml \
-    share/kestedit/lang/english.lng share/kestedit/lang/german.lng include/kestEdit/kestEdit.h; do
+    share/kestedit/lang/english.lng share/kestedit/lang/german.lng ${desktop:+share/kestedit/manual/manual.de.html} include/kestEdit/kestEdit.h; do
     [[ -s $prefix/$file ]] || fail "$file is missing"
 done
 if [[ $desktop ]]; then
@@ -88,6 +88,15 @@ jobs() {
     echo "$work/jobs-$1"
 }
 
+if [[ $desktop ]]; then
+    step "the manual leads only to what is there"
+    for page in "$prefix"/share/kestedit/manual/*.html; do
+        for target in $(grep -oP '(href|src)="\K[^"]+' "$page" || true); do
+            [[ -s ${page%/*}/$target ]] || fail "$page leads to $target"
+        done
+    done
+fi
+
 step "a host in C++ without a toolkit"
 buildHost "$source_folder/examples/host-plain"
 expect "host-plain" "event: a new job
@@ -130,6 +139,7 @@ if [[ $desktop ]]; then
     buildHost "$source_folder/examples/host-qt"
     buildHost "$source_folder/tests/install/user-of-host-qt"
     expect "host-qt" "Job host - New job
+help: $(realpath "$prefix")/share/kestedit/manual/manual.html
 the host lists Night.job" "$("$work/user-of-host-qt/user-of-host-qt" "$(jobs qt)")"
 else
     echo "skipped: this build has no window"

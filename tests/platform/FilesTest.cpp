@@ -10,6 +10,7 @@
 #include <unistd.h>
 #include <utility>
 
+#include "platform/DataFolder.h"
 #include "platform/FileSystem.h"
 #include "platform/Patience.h"
 #include "platform/StagedFile.h"
@@ -57,6 +58,10 @@ TEST_F(Files, joinsAndTakesApartPaths) {
     EXPECT_EQ(files_.BuildPath("", "b"), "b");
     EXPECT_EQ(files_.GetFileName("/a/b/"), "b");
     EXPECT_EQ(files_.GetFileName("/"), "");
+}
+
+TEST(DataFolder, isThatOfTheTreeThatTheCodeStandsIn) {
+    EXPECT_TRUE(std::filesystem::exists(dataFolder() / "lang/english.lng")) << dataFolder();
 }
 
 TEST(Patience, anAnswerThatDoesNotComeCostsNoMoreThanThePatience) {

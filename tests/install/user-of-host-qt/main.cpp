@@ -1,8 +1,10 @@
-// Sits before the example host: creates a job in the editor's window, and finds it in the host's list.
+// Sits before the example host: asks for help, creates a job in the editor's window, and finds it in the host's list.
 #include <QApplication>
+#include <QDesktopServices>
 #include <QListWidget>
 #include <QPushButton>
 #include <QTest>
+#include <QTextBrowser>
 #include <QTimer>
 #include <cstdlib>
 #include <iostream>
@@ -28,6 +30,10 @@ void createJob() {
     QWidget* const editor = QApplication::activeModalWidget();
     if (!editor) fail("the editor's window has not opened");
     std::cout << qPrintable(editor->windowTitle()) << '\n';
+    QTextBrowser browser;
+    QDesktopServices::setUrlHandler("file", &browser, "setSource");
+    QTest::keyClick(editor, Qt::Key_F1);
+    std::cout << "help: " << qPrintable(browser.source().toLocalFile()) << '\n';
     QTest::keyClicks(in<QWidget>(editor, "dxName"), "Night");
     QTest::mouseClick(in<QPushButton>(editor, "cmdSave"), Qt::LeftButton);
 }
