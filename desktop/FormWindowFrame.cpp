@@ -56,7 +56,7 @@ void FormWindow::buildFrame() {
     picture->setObjectName(QStringLiteral("Image1"));
     picture->setFixedSize(pictureSize, pictureSize);
 
-    auto* buttons = new FlowLayout;
+    auto* buttons = new FlowLayout(nullptr, FlowLayout::Edge::trailing);
     buttons->setSpacing(8);
     for (const char* name : {"cmdPrevious", "cmdNext", "cmdCancel", "cmdSave"})
         buttons->addWidget(commandButton(name, this));

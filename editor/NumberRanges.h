@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "platform/Export.h"
+
 namespace kestedit {
 
 struct NumberRange {
@@ -13,6 +15,6 @@ struct NumberRange {
 
 /// The numbers that a user can type into an editor. A spin step may leave the range by one on its way into the next
 /// unit.
-[[nodiscard]] NumberRange numberRange(std::string_view editor);
+[[nodiscard]] KESTEDIT_EXPORT NumberRange numberRange(std::string_view editor);
 
 }  // namespace kestedit

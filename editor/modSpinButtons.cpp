@@ -1,5 +1,8 @@
 #include "editor/modSpinButtons.h"
 
+#include <array>
+#include <span>
+
 #include "i18n/Catalogue.h"
 
 namespace kestedit {
@@ -43,8 +46,25 @@ constexpr Unit day{catalogue::day, catalogue::days};
 constexpr Unit hour{catalogue::hour, catalogue::hours};
 constexpr Unit minute{catalogue::minute, catalogue::minutes};
 
-void nameUnit(const FormModel& form, const EditorControl& editor, EditorControl& label, Unit unit) {
-    label.Caption = form.TextCatalogue[editor.number() == 1 ? unit.singular : unit.plural];
+struct UnitLabel {
+    EditorControl FormModel::*editor;
+    EditorControl FormModel::*label;
+    Unit unit;
+};
+constexpr std::array intervalLabels{
+    UnitLabel{&FormModel::dxDays, &FormModel::lblDays, day},
+    UnitLabel{&FormModel::dxHours, &FormModel::lblHours, hour},
+    UnitLabel{&FormModel::dxMinutes, &FormModel::lblMinutes, minute},
+};
+constexpr std::array ageLabels{
+    UnitLabel{&FormModel::dxAge, &FormModel::lblFileAgeDays, day},
+    UnitLabel{&FormModel::dxAgeHours, &FormModel::lblFileAgeHours, hour},
+    UnitLabel{&FormModel::dxAgeMinutes, &FormModel::lblFileAgeMinutes, minute},
+};
+
+void nameUnits(FormModel& form, std::span<const UnitLabel> labels) {
+    for (const auto& [editor, label, unit] : labels)
+        (form.*label).Caption = form.TextCatalogue[(form.*editor).number() == 1 ? unit.singular : unit.plural];
 }
 
 }  // namespace
@@ -84,15 +104,21 @@ void SpinDays(EditorControl& minutes, EditorControl& hours, EditorControl& days,
 }
 
 void UpdateIntervalUnitLabels(FormModel& form) {
-    nameUnit(form, form.dxDays, form.lblDays, day);
-    nameUnit(form, form.dxHours, form.lblHours, hour);
-    nameUnit(form, form.dxMinutes, form.lblMinutes, minute);
+    nameUnits(form, intervalLabels);
 }
 
 void UpdateAgeUnitLabels(FormModel& form) {
-    nameUnit(form, form.dxAge, form.lblFileAgeDays, day);
-    nameUnit(form, form.dxAgeHours, form.lblFileAgeHours, hour);
-    nameUnit(form, form.dxAgeMinutes, form.lblFileAgeMinutes, minute);
+    nameUnits(form, ageLabels);
+}
+
+std::vector<std::string> UnitCaptions(const FormModel& form, const EditorControl& label) {
+    for (const auto& labels : {intervalLabels, ageLabels}) {
+        for (const UnitLabel& row : labels) {
+            if (&(form.*row.label) != &label) continue;
+            return {form.TextCatalogue[row.unit.singular], form.TextCatalogue[row.unit.plural]};
+        }
+    }
+    return {};
 }
 
 }  // namespace kestedit

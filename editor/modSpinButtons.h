@@ -1,7 +1,11 @@
 // Days, hours and minutes that behave like one duration, with the unit's name beside each.
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "form/FormModel.h"
+#include "platform/Export.h"
 
 namespace kestedit {
 
@@ -14,5 +18,9 @@ void SpinDays(EditorControl& minutes, EditorControl& hours, EditorControl& days,
 /// Singular beside exactly 1, plural beside any other value.
 void UpdateIntervalUnitLabels(FormModel& form);
 void UpdateAgeUnitLabels(FormModel& form);
+
+/// The captions that a unit's label takes in turn, for a driver that keeps room for the longer one; none for any other
+/// label.
+[[nodiscard]] KESTEDIT_EXPORT std::vector<std::string> UnitCaptions(const FormModel& form, const EditorControl& label);
 
 }  // namespace kestedit

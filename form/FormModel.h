@@ -90,7 +90,9 @@ struct KESTEDIT_EXPORT FormModel : ControlRegistry {
     ControlArray<4> optIntTime           {*this, Kind::option,   "optIntTime",           fraMonitoring};
     EditorControl   lblDateTime          {*this, Kind::label,    "lblDateTime",          fraMonitoring};
     EditorControl   dxDateTime           {*this, Kind::time,     "dxDateTime",           fraMonitoring};
+    EditorControl   lblIntWeekDay        {*this, Kind::label,    "lblIntWeekDay",        fraMonitoring};
     EditorControl   dxIntWeekDay         {*this, Kind::pick,     "dxIntWeekDay",         fraMonitoring, ""};
+    EditorControl   lblIntMonthDay       {*this, Kind::label,    "lblIntMonthDay",       fraMonitoring};
     EditorControl   dxIntMonthDay        {*this, Kind::number,   "dxIntMonthDay",        fraMonitoring, std::int64_t{1}};
     EditorControl   lblDate              {*this, Kind::label,    "lblDate",              fraMonitoring};
     EditorControl   dxDate               {*this, Kind::date,     "dxDate",               fraMonitoring};
@@ -168,6 +170,7 @@ struct KESTEDIT_EXPORT FormModel : ControlRegistry {
     EditorControl   lblFileAge           {*this, Kind::label,    "lblFileAge",           fraDate};
     EditorControl   lblFDate             {*this, Kind::label,    "lblFDate",             fraDate};
     ControlArray<5> optAge               {*this, Kind::option,   "optAge",               fraDate};
+    EditorControl   lblFileAgeType       {*this, Kind::label,    "lblFileAgeType",       fraDate};
     ControlArray<3> optFileAgeType       {*this, Kind::option,   "optFileAgeType",       fraDate};
     EditorControl   dxAge                {*this, Kind::spin,     "dxAge",                fraDate, std::int64_t{1}};
     EditorControl   lblFileAgeDays       {*this, Kind::label,    "lblFileAgeDays",       fraDate};
@@ -179,6 +182,7 @@ struct KESTEDIT_EXPORT FormModel : ControlRegistry {
     EditorControl   dxDateFrom           {*this, Kind::date,     "dxDateFrom",           fraDate};
     EditorControl   lblDateTo            {*this, Kind::label,    "lblDateTo",            fraDate};
     EditorControl   dxDateTo             {*this, Kind::date,     "dxDateTo",             fraDate};
+    EditorControl   lblFileDateType      {*this, Kind::label,    "lblFileDateType",      fraDate};
     ControlArray<3> optFileDate          {*this, Kind::option,   "optFileDate",          fraDate};
     EditorControl   lblFileDate          {*this, Kind::label,    "lblFileDate",          fraDate};
     EditorControl   dxFileDate           {*this, Kind::date,     "dxFileDate",           fraDate};
@@ -234,6 +238,7 @@ struct KESTEDIT_EXPORT FormModel : ControlRegistry {
     EditorControl   lblSyncTitle         {*this, Kind::label,    "lblSyncTitle",         fraSync};
     EditorControl   lblSyncStart         {*this, Kind::label,    "lblSyncStart",         fraSync};
     ControlArray<2> optSyncStart         {*this, Kind::option,   "optSyncStart",         fraSync};
+    ControlArray<2> lblSyncStartWay      {*this, Kind::label,    "lblSyncStartWay",      fraSync};
     EditorControl   lblSyncFunc          {*this, Kind::label,    "lblSyncFunc",          fraSync};
     ControlArray<3> optSyncExist         {*this, Kind::option,   "optSyncExist",         fraSync};
     EditorControl   chkSyncDelete        {*this, Kind::check,    "chkSyncDelete",        fraSync};
@@ -247,6 +252,7 @@ struct KESTEDIT_EXPORT FormModel : ControlRegistry {
     EditorControl   dxPickRenamer        {*this, Kind::pick,     "dxPickRenamer",        fraZielverzeichnis, ""};
     ControlArray<2> optRenameSelect      {*this, Kind::option,   "optRenameSelect",      fraZielverzeichnis};
     EditorControl   chkDelSourceRename   {*this, Kind::check,    "chkDelSourceRename",   fraZielverzeichnis};
+    EditorControl   lblPickExistSelecter {*this, Kind::label,    "lblPickExistSelecter", fraZielverzeichnis};
     EditorControl   dxPickExistSelecter  {*this, Kind::pick,     "dxPickExistSelecter",  fraZielverzeichnis, ""};
     EditorControl   lblExistTime         {*this, Kind::label,    "lblExistTime",         fraZielverzeichnis};
     ControlArray<3> optExtFileTime       {*this, Kind::option,   "optExtFileTime",       fraZielverzeichnis};

@@ -6,6 +6,15 @@
 namespace kestedit::catalogue {
 
 // Where an entry stands is an agreement with language files and with the built-in texts: never change a number.
+//
+// Language files bring more entries than are asked for. Not shown, and why:
+//   2, 3            opening and closing an extended configuration: the editor shows all it has
+//   4, 5            folder structure and empty folders: their boxes have the same text as caption
+//   13, 14, 15, 17  ways with existing files: the options and their heading have the same texts as captions
+//   18, 19, 20      further ways with existing files, which a job cannot store
+//   50, 51, 63      what a summary of the job would say: there is none
+//   64, 65, 66, 78  the heading, action, label and option of these texts have them as captions
+//   81, 82          a check of the paths that is under way or has found nothing: findings alone are told
 enum Entry : std::size_t {
     newJob = 0,
     editJob = 1,

@@ -27,8 +27,10 @@ constexpr TextTarget blank(int key, int index) {
 }
 
 // A line to a key: `text` is a caption, `tip` a tool tip, `entry` an entry of a pick list, `cat` an entry of the
-// catalogue, `blank` one with a blank behind the text. Four labels have two keys: lblComment (81, 179),
-// lblDestZExist (139, 156), lblDestZDec (142, 154), lblDestZFilter (145, 155).
+// catalogue, `blank` one with a blank behind the text. Not every text is seen: of two keys for one label the later one
+// is (lblComment 81, lblDestZExist 139, lblDestZDec 142 and lblDestZFilter 145 give way to 179, 156, 154 and 155),
+// rules put the unit's name in the place of 58, the node's title in that of 25 and 80, a longer sentence in that of 79;
+// i18n/Catalogue.h names the entries of the catalogue that nothing asks for.
 // clang-format off
 constexpr auto table = std::to_array<TextTarget>({
     cat(0, 0),

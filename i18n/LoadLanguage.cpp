@@ -9,6 +9,7 @@
 
 #include "i18n/Catalogue.h"
 #include "i18n/PickLists.h"
+#include "i18n/Texts.h"
 #include "i18n/modMessages.h"
 
 namespace kestedit {
@@ -40,7 +41,8 @@ constexpr std::array<UnitText, 6> unitTexts{{{2, catalogue::minute, "Minute"},
                                              {16, catalogue::day, "Tag"},
                                              {17, catalogue::days, "Tage"}}};
 
-// The control library's own number of each localizer text, by key.
+// The control library's own number of each localizer text, by key. The last one, a title, is not shown: the calendar
+// drops down from its field and has none.
 constexpr std::array<std::size_t, 9> localizerIds{1, 0, 9, 8, 11, 10, 7, 12, 6};
 
 /// Texts of one section of the language file.
@@ -126,6 +128,21 @@ void loadWeekdays(FormModel& form, const modIniHandler& texts) {
     ReplaceItems(form.dxIntWeekDay, std::move(days));
 }
 
+// Labels of fields and groups that the first language files had no text of their own for.
+void labelTheRest(FormModel& form, const modIniHandler& texts) {
+    form.lblIntWeekDay.Caption = form.TextCatalogue.at(catalogue::weekDay);
+    form.lblIntMonthDay.Caption = form.TextCatalogue.at(catalogue::monthDay);
+    form.lblPickExistSelecter.Caption = form.TextCatalogue.at(catalogue::replaceIf);
+    // Without a language file the options have no captions, and a heading above nothing helps nobody.
+    const auto headed = [&](const EditorControl& option, TextId heading) {
+        return option.Caption.empty() ? std::string{} : textOf(texts, heading);
+    };
+    form.lblFileAgeType.Caption = headed(form.optFileAgeType[0], TextId::whichTimeStamp);
+    form.lblFileDateType.Caption = headed(form.optFileDate[0], TextId::whichDates);
+    form.lblSyncStartWay[0].Caption = headed(form.optSyncStart[SyncStart::oneWay], TextId::oneWay);
+    form.lblSyncStartWay[1].Caption = headed(form.optSyncStart[SyncStart::bothWays], TextId::bothWays);
+}
+
 }  // namespace
 
 void LoadLanguage(FormModel& form, const modIniHandler& texts) {
@@ -136,6 +153,7 @@ void LoadLanguage(FormModel& form, const modIniHandler& texts) {
     FillPickLists(form);
     loadLocalizer(form, texts);
     loadWeekdays(form, texts);
+    labelTheRest(form, texts);
 }
 
 }  // namespace kestedit

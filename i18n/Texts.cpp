@@ -45,7 +45,7 @@ constexpr auto rows = std::to_array<TextRow>({
     {createButton,           "dlgNewFolder",   "t1",   "&Erstellen"},
     {cancelButton,           "All",            "t0",   "&Abbrechen"},
     {folderExists,           "dlgNewFolder",   "t2",   "Ordner existiert schon."},
-    {newMonitoredFolder,     "dlgNewFolder",   "t3",   "Neuer Ordner"},
+    {newMonitoredFolder,     "dlgNewFolder",   "t3",   "Überwachter Ordner"},
     {newFolderIn,            "dlgNewFolder",   "t4",   "Wird angelegt in: %1", "Will be created in: %1"},
     {sourceMissing,          "Findings",       "t0",   "Das Quellverzeichnis existiert nicht.", "The source folder does not exist."},
     {sourceUnreadable,       "Findings",       "t1",   "Das Quellverzeichnis kann nicht gelesen werden.", "The source folder cannot be read."},
@@ -88,6 +88,7 @@ constexpr auto rows = std::to_array<TextRow>({
     {noDestinationToMonitor,  "Findings",       "t42",  "Ein Auftrag, der löscht, hat kein Zielverzeichnis, das überwacht werden könnte.", "A job that deletes has no destination folder that could be monitored."},
     {actionNotInView,         "Findings",       "t43",  "Der Modus dieses Auftrags ist \"%1\". Diese Ansicht kann ihn nicht zeigen.", "The mode of this job is \"%1\". This view cannot show it."},
     {scheduleNotInView,       "Findings",       "t44",  "Dieser Auftrag läuft so: %1. Diese Ansicht kann das nicht zeigen.", "This job runs like this: %1. This view cannot show it."},
+    {numberRange,            "Findings",       "t120", "Erlaubt sind Zahlen von %1 bis %2.", "Numbers from %1 to %2 are allowed."},
     {browseButton,           "Window",         "t0",   "Durchsuchen", "Browse"},
     {newFolderButton,        "Window",         "t1",   "Neuen Ordner anlegen", "Create a new folder"},
     {showPassword,           "Window",         "t2",   "Passwort zeigen", "Show password"},
@@ -100,6 +101,11 @@ constexpr auto rows = std::to_array<TextRow>({
     {jobInactive,            "Window",         "t7",   "Der Auftrag ist inaktiv", "The job is inactive"},
     {pageApplies,            "Window",         "t8",   "Diese Seite ändert, was der Auftrag tut", "This page changes what the job does"},
     {pageDoesNotApply,       "Window",         "t9",   "Diese Seite gilt für diesen Modus nicht", "This page does not apply to this mode"},
+    {allFiles,               "Window",         "t120", "Alle Dateien", "All files"},
+    {whichTimeStamp,         "Window",         "t121", "Welcher Zeitstempel zählt", "Which time stamp counts"},
+    {whichDates,             "Window",         "t122", "Die Dateien sind", "The files are"},
+    {oneWay,                 "Window",         "t123", "(einseitig)", "(one way)"},
+    {bothWays,               "Window",         "t124", "(gegenseitig)", "(both ways)"},
 });
 // clang-format on
 

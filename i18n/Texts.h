@@ -86,6 +86,7 @@ enum class TextId : std::uint8_t {
     noDestinationToMonitor,
     actionNotInView,
     scheduleNotInView,
+    numberRange,
     // the window
     browseButton,
     newFolderButton,
@@ -100,6 +101,12 @@ enum class TextId : std::uint8_t {
     jobInactive,
     pageApplies,
     pageDoesNotApply,
+    // captions that the first language files had no text for
+    allFiles,
+    whichTimeStamp,
+    whichDates,
+    oneWay,
+    bothWays,
     count
 };
 

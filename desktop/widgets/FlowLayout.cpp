@@ -1,11 +1,35 @@
 #include "desktop/widgets/FlowLayout.h"
 
+#include <QLabel>
 #include <QStyle>
 #include <QWidget>
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 
 namespace kestedit {
+
+namespace {
+
+constexpr int pairGap = 12;
+
+const QLabel* labelIn(const QLayoutItem& item) {
+    return qobject_cast<const QLabel*>(item.widget());
+}
+
+bool isLabelOf(const QLayoutItem& label, const QLayoutItem& field) {
+    return labelIn(label) && labelIn(label)->buddy() && labelIn(label)->buddy() == field.widget();
+}
+
+bool belongTogether(const QLayoutItem& one, const QLayoutItem& next) {
+    return isLabelOf(one, next) || isLabelOf(next, one);
+}
+
+}  // namespace
+
+FlowLayout::FlowLayout(QWidget* parent, Edge edge) : QLayout(parent), edge_(edge) {
+    setContentsMargins(0, 0, 0, 0);
+}
 
 QLayoutItem* FlowLayout::itemAt(int index) const {
     return index >= 0 && index < count() ? items_[static_cast<std::size_t>(index)].get() : nullptr;
@@ -18,20 +42,47 @@ QLayoutItem* FlowLayout::takeAt(int index) {
     return item;
 }
 
-QSize FlowLayout::sizeHint() const {
-    int width = -spacing();
-    int height = 0;
+// Hidden items do not count, so a row of hidden fields takes no room.
+std::vector<std::vector<QLayoutItem*>> FlowLayout::chunks() const {
+    std::vector<std::vector<QLayoutItem*>> chunks;
     for (const auto& item : items_) {
-        width += item->sizeHint().width() + spacing();
-        height = std::max(height, item->sizeHint().height());
+        if (item->isEmpty()) continue;
+        if (!chunks.empty() && belongTogether(*chunks.back().back(), *item)) {
+            chunks.back().push_back(item.get());
+        } else {
+            chunks.push_back({item.get()});
+        }
     }
-    return {std::max(width, 0), height};
+    return chunks;
+}
+
+// Pairs of label and field stand apart from one another.
+int FlowLayout::gapBetween(const QLayoutItem& one, const QLayoutItem& next) const {
+    const bool pairs = !belongTogether(one, next) && (labelIn(one) || labelIn(next));
+    return spacing() + (pairs ? pairGap : 0);
+}
+
+QSize FlowLayout::sizeOf(std::span<QLayoutItem* const> items) const {
+    QSize size(0, 0);
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        const QSize hint = items[i]->sizeHint();
+        const int gap = i == 0 ? 0 : gapBetween(*items[i - 1], *items[i]);
+        size = QSize(size.width() + gap + hint.width(), std::max(size.height(), hint.height()));
+    }
+    return size;
+}
+
+QSize FlowLayout::sizeHint() const {
+    std::vector<QLayoutItem*> all;
+    for (const auto& chunk : chunks())
+        all.insert(all.end(), chunk.begin(), chunk.end());
+    return sizeOf(all);
 }
 
 QSize FlowLayout::minimumSize() const {
     QSize widest;
-    for (const auto& item : items_)
-        widest = widest.expandedTo(item->minimumSize());
+    for (const auto& chunk : chunks())
+        widest = widest.expandedTo(sizeOf(chunk));
     return widest;
 }
 
@@ -41,28 +92,34 @@ void FlowLayout::setGeometry(const QRect& area) {
 }
 
 int FlowLayout::arrange(const QRect& area, bool place) const {
-    const Qt::LayoutDirection direction = parentWidget() ? parentWidget()->layoutDirection() : Qt::LeftToRight;
+    const auto parts = chunks();
     int top = area.top();
-    for (auto first = items_.begin(); first != items_.end();) {
-        int width = -spacing();
-        int height = 0;
-        auto last = first;
-        for (; last != items_.end(); ++last) {
-            const QSize size = (*last)->sizeHint();
-            if (last != first && width + spacing() + size.width() > area.width()) break;
-            width += spacing() + size.width();
-            height = std::max(height, size.height());
+    for (auto first = parts.begin(); first != parts.end();) {
+        std::vector<QLayoutItem*> line;
+        for (; first != parts.end(); ++first) {
+            std::vector<QLayoutItem*> longer = line;
+            longer.insert(longer.end(), first->begin(), first->end());
+            if (!line.empty() && sizeOf(longer).width() > area.width()) break;
+            line = std::move(longer);
         }
-        int left = area.right() + 1 - width;
-        for (; first != last; ++first) {
-            const QSize size = (*first)->sizeHint();
-            if (place)
-                (*first)->setGeometry(QStyle::visualRect(direction, area, QRect(left, top, size.width(), height)));
-            left += size.width() + spacing();
-        }
-        top += height + spacing();
+        const QSize size = sizeOf(line);
+        if (place) placeLine(area, line, QRect(QPoint(area.left(), top), size));
+        top += size.height() + spacing();
     }
-    return items_.empty() ? 0 : top - spacing() - area.top();
+    return parts.empty() ? 0 : top - spacing() - area.top();
+}
+
+void FlowLayout::placeLine(const QRect& area, std::span<QLayoutItem* const> line, QRect room) const {
+    const Qt::LayoutDirection direction = parentWidget() ? parentWidget()->layoutDirection() : Qt::LeftToRight;
+    if (edge_ == Edge::trailing) room.moveRight(area.right());
+    const QLayoutItem* before = nullptr;
+    for (QLayoutItem* item : line) {
+        if (before) room.setLeft(room.left() + gapBetween(*before, *item));
+        const int width = item->sizeHint().width();
+        item->setGeometry(QStyle::visualRect(direction, area, QRect(room.topLeft(), QSize(width, room.height()))));
+        room.setLeft(room.left() + width);
+        before = item;
+    }
 }
 
 }  // namespace kestedit

@@ -1,15 +1,20 @@
-// Widgets side by side, from the trailing edge on, in as many lines as the width asks for.
+// Widgets side by side, in as many lines as the width asks for.
 #pragma once
 
 #include <QLayout>
 #include <memory>
+#include <span>
 #include <vector>
 
 namespace kestedit {
 
+/// A label and its buddy stay on one line.
 class FlowLayout : public QLayout {
   public:
-    explicit FlowLayout(QWidget* parent = nullptr) : QLayout(parent) { setContentsMargins(0, 0, 0, 0); }
+    enum class Edge { leading, trailing };
+
+    /// `edge` is where each line begins or ends.
+    explicit FlowLayout(QWidget* parent = nullptr, Edge edge = Edge::leading);
     ~FlowLayout() override = default;
 
     void addItem(QLayoutItem* item) override { items_.emplace_back(item); }
@@ -27,7 +32,13 @@ class FlowLayout : public QLayout {
   private:
     /// Gives the height that `area`'s width needs; places the widgets when `place` is set.
     int arrange(const QRect& area, bool place) const;
+    void placeLine(const QRect& area, std::span<QLayoutItem* const> line, QRect room) const;
+    /// Items that no line break may part, hidden ones left out.
+    [[nodiscard]] std::vector<std::vector<QLayoutItem*>> chunks() const;
+    [[nodiscard]] int gapBetween(const QLayoutItem& one, const QLayoutItem& next) const;
+    [[nodiscard]] QSize sizeOf(std::span<QLayoutItem* const> items) const;
 
+    const Edge edge_;
     std::vector<std::unique_ptr<QLayoutItem>> items_;
 };
 

@@ -28,11 +28,12 @@ void markDatePage(FormModel& form) {
 
 void ApplyAge(FormModel& form) {
     const AgeLimit choice = ageLimit(form);
-    SetAllApply(form, choice != AgeLimit::any, form.optFileAgeType);
+    SetAllApply(form, choice != AgeLimit::any, form.lblFileAgeType, form.optFileAgeType);
     SetAllApply(form, choice == AgeLimit::older || choice == AgeLimit::newer, form.dxAge, form.lblFileAgeDays,
                 form.dxAgeHours, form.lblFileAgeHours, form.dxAgeMinutes, form.lblFileAgeMinutes);
     SetAllApply(form, choice == AgeLimit::fromTo, form.lblDatefrom, form.dxDateFrom, form.lblDateTo, form.dxDateTo);
-    SetAllApply(form, choice == AgeLimit::oneDate, form.optFileDate, form.lblFileDate, form.dxFileDate);
+    SetAllApply(form, choice == AgeLimit::oneDate, form.lblFileDateType, form.optFileDate, form.lblFileDate,
+                form.dxFileDate);
     markDatePage(form);
 }
 

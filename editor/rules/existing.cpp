@@ -73,7 +73,7 @@ void ApplyExist(FormModel& form) {
     SetAllApply(form, handlesExisting(form), form.lblExist, form.optExist);
     ApplyRenameText(form);
     ApplyRenameScheme(form);
-    SetApplies(form, form.dxPickExistSelecter, replacesOnCondition(form));
+    SetAllApply(form, replacesOnCondition(form), form.lblPickExistSelecter, form.dxPickExistSelecter);
     SetAllApply(form, comparesTimes(form), form.lblExistTime, form.optExtFileTime);
     ApplyFolderStructure(form);
 }

@@ -157,6 +157,17 @@ void RefreshPathTexts(FormModel& form) {
         field->ToolTipText = field->text();
 }
 
+bool Concerns(const FormModel& form, PathFinding finding, const EditorControl& field) {
+    const auto isOneOf = [finding](const FolderFindings& folder) {
+        return finding == folder.empty || finding == folder.missing || finding == folder.unusable ||
+               finding == folder.silent;
+    };
+    if (isOneOf(sourceFindings) || finding == PathFinding::sourceNotWritable) return &field == &form.dxSource;
+    if (isOneOf(destinationFindings)) return &field == &form.dxDest;
+    if (isOneOf(monitoredFindings)) return &field == &form.dxMonitorPath;
+    return &field == &form.dxSource || &field == &form.dxDest;  // how the two lie to one another
+}
+
 std::optional<PathFinding> CheckPaths(const JobFolders& folders, const FileSystem& files) {
     return PathCheck(folders, files).run();
 }

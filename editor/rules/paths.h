@@ -43,6 +43,9 @@ enum class PathFinding {
     monitoredNoAnswer
 };
 
+/// Whether `finding` speaks of the folder that stands in `field`.
+[[nodiscard]] bool Concerns(const FormModel& form, PathFinding finding, const EditorControl& field);
+
 /// Looks at source, destination (when the action has one) and monitored folder (when the schedule uses it). The whole
 /// look takes two seconds at most: a folder that has not answered by then is given up, and so are those behind it; what
 /// could be found out about the others comes first. A path is taken as it stands, without variables or wildcards. May

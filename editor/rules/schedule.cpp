@@ -39,8 +39,8 @@ void ApplyIntTime(FormModel& form) {
 void ApplyRunTime(FormModel& form) {
     const bool timed = form.optIntervall[Schedule::time].isSet();
     SetAllApply(form, timed, form.lblDateTime, form.dxDateTime);
-    SetApplies(form, form.dxIntWeekDay, timed && form.optIntTime[RunTime::weekly].isSet());
-    SetApplies(form, form.dxIntMonthDay, timed && form.optIntTime[RunTime::monthly].isSet());
+    SetAllApply(form, timed && form.optIntTime[RunTime::weekly].isSet(), form.lblIntWeekDay, form.dxIntWeekDay);
+    SetAllApply(form, timed && form.optIntTime[RunTime::monthly].isSet(), form.lblIntMonthDay, form.dxIntMonthDay);
     SetAllApply(form, timed && form.optIntTime[RunTime::onDate].isSet(), form.lblDate, form.dxDate);
 }
 
