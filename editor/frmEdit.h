@@ -62,7 +62,8 @@ class KESTEDIT_EXPORT frmEdit : public FormModel {
     /// text before it kept, when the job file's code page cannot hold it. Line breaks in a memo become "\r\n", in any
     /// other field blanks.
     void onTextTyped(EditorControl& control, std::string_view text);
-    /// The user has left a field or confirmed it: checks that look at the disk run now and not while typing.
+    /// The user has left a field or confirmed it: checks that look at the disk run now and not while typing, and a
+    /// finding about the field, which is not told while the user is still at it, is told now.
     void onEditingFinished(EditorControl& control);
     /// A state or a choice that holds already is no change, and no rule runs.
     void onCheckClicked(EditorControl& control, int state);
@@ -84,7 +85,7 @@ class KESTEDIT_EXPORT frmEdit : public FormModel {
     void onNodeClicked(int position);
     /// A key in the navigation list: 38 and 40 move the focus and show the page, others do nothing.
     void onNodeKey(int keyCode);
-    /// A mouse button pressed on a field; 2 is the right one.
+    /// A mouse button pressed on a field; 2 is the right one. Changes nothing.
     void onMousePressed(EditorControl& control, int button);
     void onFocused(EditorControl& control);
     /// The one-shot timer; does nothing when it has fired before.
@@ -117,8 +118,10 @@ class KESTEDIT_EXPORT frmEdit : public FormModel {
     void focus(EditorControl& control);
     void open(EditorControl& control);
     void checkPaths();
+    void withdrawPathFinding(const EditorControl& typed);
     void showPathFinding(std::optional<PathFinding> finding);
-    void checkSchedule();
+    void checkSchedule(bool mayAppear = true);
+    [[nodiscard]] bool isUnfinished(const EditorControl& control) const;
     void browsePath(EditorControl& control);
     void browseExecPath(int button);
     void createFolder(EditorControl& control);
@@ -142,7 +145,8 @@ class KESTEDIT_EXPORT frmEdit : public FormModel {
     bool open_ = true;
     bool timerRunning_ = true;
     EditorControl* typing_ = nullptr;  ///< the field that the user is typing into; not owned
-    JobFolders checkedFolders_;        ///< those of the last check, which may still be under way
+    JobFolders checkedFolders_;  ///< those of the last check, which may still be under way, or of what is typed since
+    std::optional<PathFinding> pathFinding_;  ///< the one shown now
     Background background_;
     bool editPaths_ = true;
 };

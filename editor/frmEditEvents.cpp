@@ -19,7 +19,6 @@ namespace {
 
 constexpr int keyUp = 38;
 constexpr int keyDown = 40;
-constexpr int rightButton = 2;
 
 /// The three editors of one duration.
 struct Duration {
@@ -91,7 +90,7 @@ void frmEdit::changed(EditorControl& control, bool typing) {
     refreshNotices();
     // A finding goes as soon as the user has mended it. The disk is asked only when the job wants other things from it.
     if (timerRunning_) return;
-    checkSchedule();
+    checkSchedule(!isUnfinished(control));
     if (DemandsOnFolders(*this) != checkedFolders_.demands) checkPaths();
 }
 
@@ -105,6 +104,7 @@ void frmEdit::onTextTyped(EditorControl& control, std::string_view text) {
     if (!platform_.ini.codePage().encode(text)) throw EventRefused(UnstorableText(ini_, text));
     control.EditValue = control.Kind == ControlKind::memo ? windowsLines(text) : singleLine(text);
     FilterFieldText(*this, control);
+    if (control.Kind == ControlKind::path) withdrawPathFinding(control);
     changed(control, true);
 }
 
@@ -113,6 +113,14 @@ void frmEdit::onEditingFinished(EditorControl& control) {
     typing_ = nullptr;
     refreshNotices();
     if (control.Kind == ControlKind::path && &control != &dxExecPath) checkPaths();
+    if (!timerRunning_) checkSchedule();
+}
+
+// A date or time that the user is at may change with the next key, and an emptied number is on its way to another.
+bool frmEdit::isUnfinished(const EditorControl& control) const {
+    const bool moment = control.Kind == ControlKind::date || control.Kind == ControlKind::time;
+    const bool number = control.Kind == ControlKind::number || control.Kind == ControlKind::spin;
+    return FocusedControl == &control && (moment || (number && control.isEmpty()));
 }
 
 void frmEdit::onCheckClicked(EditorControl& control, int state) {
@@ -169,8 +177,8 @@ void frmEdit::onNumberTyped(EditorControl& control, std::optional<std::int64_t> 
     requireReachable(control, {ControlKind::number, ControlKind::spin});
     const NumberRange range = numberRange(control.Base);
     if (number && (*number < range.least || *number > range.most)) {
-        throw EventRefused(control.Name() + " takes " + std::to_string(range.least) + " to " +
-                           std::to_string(range.most));
+        throw EventRefused(
+            textOf(ini_, TextId::numberRange, {std::to_string(range.least), std::to_string(range.most)}));
     }
     control.EditValue = number ? Value{*number} : Value{};
     changed(control, true);
@@ -229,12 +237,9 @@ void frmEdit::onNodeKey(int keyCode) {
     onNodeClicked(std::clamp(wanted, 0, std::max(last, 0)));
 }
 
-void frmEdit::onMousePressed(EditorControl& control, int button) {
+// Taken, and nothing follows: every field keeps its own menu under the right button.
+void frmEdit::onMousePressed(EditorControl& /*control*/, int /*button*/) {
     requireOpen();
-    if (button != rightButton) return;
-    for (const EditorControl* field : {&dxExt, &dxSize, &dxName, &dxSource, &dxDest}) {
-        if (&control == field) control.SuppressContextMenu = true;
-    }
 }
 
 void frmEdit::onFocused(EditorControl& control) {
@@ -251,8 +256,9 @@ void frmEdit::onTimer() {
     timerRunning_ = false;
 }
 
-void frmEdit::checkSchedule() {
+void frmEdit::checkSchedule(bool mayAppear) {
     const auto finding = CheckSchedule(*this, platform_.clock.now());
+    if (finding && !mayAppear && !lblChkTimeMsg.Visible) return;
     lblChkTimeMsg.Caption = finding ? FindingText(ini_, *finding) : std::string{};
     lblChkTimeMsg.Visible = finding.has_value();
 }

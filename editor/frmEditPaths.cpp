@@ -35,6 +35,7 @@ int modeOf(const FormModel& form, const EditorControl& field) {
 
 // Patterns and flags of the program chooser.
 constexpr std::string_view programPatterns = " (*.exe, *.com, *.bat)|*.exe;*.com;*.bat";
+constexpr std::string_view everyFile = "|*|";
 constexpr unsigned hideReadOnlyBox = 4;
 constexpr unsigned fileMustExist = 4096;
 
@@ -64,9 +65,11 @@ void frmEdit::createFolder(EditorControl& control) {
 
 void frmEdit::browseExecPath(int button) {
     if (button != 0) return;
+    // A program here has no extension that tells it, so every file is offered first.
+    const std::string filter = textOf(ini_, TextId::allFiles) + std::string{everyFile} +
+                               TextCatalogue[catalogue::programFilter] + std::string{programPatterns};
     const auto file = platform_.prompts.chooseFile(
-        {TextCatalogue[catalogue::programTitle], TextCatalogue[catalogue::programFilter] + std::string{programPatterns},
-         1, hideReadOnlyBox | fileMustExist});
+        {TextCatalogue[catalogue::programTitle], filter, 1, hideReadOnlyBox | fileMustExist});
     if (!file) return;
     if (!IsStorablePath(platform_.ini.codePage(), *file)) throw EventRefused(UnstorableText(ini_, *file));
     dxExecPath.EditValue = *file;
@@ -88,7 +91,16 @@ void frmEdit::checkPaths() {
     show();
 }
 
+// What is said of a folder whose path is being typed is out of date, and so is a look that is still under way; the next
+// one comes when the field is left.
+void frmEdit::withdrawPathFinding(const EditorControl& typed) {
+    if (timerRunning_) return;
+    checkedFolders_ = FoldersOf(*this);
+    if (pathFinding_ && Concerns(*this, *pathFinding_, typed)) showPathFinding(std::nullopt);
+}
+
 void frmEdit::showPathFinding(std::optional<PathFinding> finding) {
+    pathFinding_ = finding;
     lblChkPathMsg.Caption = finding ? FindingText(ini_, *finding, *this) : std::string{};
     lblChkPathMsg.Visible = finding.has_value();
 }

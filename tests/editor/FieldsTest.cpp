@@ -144,7 +144,7 @@ TEST_F(Choosers, PathGoesIntoItsField) {
     EXPECT_EQ(form().dxExecPath.text(), "") << "it has one button";
     button("dxExecPath", 0);
     EXPECT_EQ(form().dxExecPath.text(), "/usr/bin/true");
-    EXPECT_EQ(prompts.lastChooser, "Programme (*.exe, *.com, *.bat)|*.exe;*.com;*.bat");
+    EXPECT_EQ(prompts.lastChooser, "Alle Dateien|*|Programme (*.exe, *.com, *.bat)|*.exe;*.com;*.bat");
 }
 
 TEST_F(NewFolder, ExistingFolderIsReportedByField) {

@@ -121,7 +121,7 @@ TEST_F(Findings, AppearWithTheTimerAndFollowTheirChoices) {
     number("dxMinutes", 1);
     type("dxSource", jobs.string());
     form().onTimer();
-    EXPECT_EQ(shown(), noSource) << "not while typing, and the timer fires once only";
+    EXPECT_EQ(shown(), "|") << "nothing is said of a path that is being typed, and the timer fires once only";
     form().onEditingFinished(form().dxSource);
     EXPECT_EQ(shown(), "Für diese Aktion ist kein Zielverzeichnis angegeben.|");
     act(2);
@@ -145,6 +145,35 @@ TEST_F(Findings, AppearWithTheTimerAndFollowTheirChoices) {
     EXPECT_EQ(shown(), "Es ist kein überwachter Ordner angegeben.|");
     choose("optIntervall", 0);
     EXPECT_EQ(shown(), "|") << "at an interval nothing is watched";
+}
+
+TEST_F(Findings, WaitUntilTheUserHasLeftTheField) {
+    create();
+    form().onTimer();
+    const auto& paths = form().lblChkPathMsg;
+    const auto& schedule = form().lblChkTimeMsg;
+    form().onFocused(form().dxDest);
+    type("dxDest", "/g");
+    EXPECT_TRUE(paths.Visible) << "the source is missing all the same";
+    form().onFocused(form().dxSource);
+    type("dxSource", jobs.string() + "/gone");
+    EXPECT_FALSE(paths.Visible);
+    form().onEditingFinished(form().dxSource);
+    EXPECT_EQ(paths.Caption, "Das Quellverzeichnis existiert nicht.");
+    form().onFocused(form().dxHours);
+    form().onNumberTyped(form().dxHours, {});
+    EXPECT_FALSE(schedule.Visible) << "an emptied number is on its way to another";
+    form().onEditingFinished(form().dxHours);
+    EXPECT_TRUE(schedule.Visible);
+    number("dxHours", 2);
+    EXPECT_FALSE(schedule.Visible) << "what is mended is so at once";
+    choose("optIntervall", 1);
+    choose("optIntTime", 3);
+    form().onFocused(form().dxDate);
+    form().onDateChosen(form().dxDate, addDays(test::now.date, -1));
+    EXPECT_FALSE(schedule.Visible);
+    form().onEditingFinished(form().dxDate);
+    EXPECT_TRUE(schedule.Visible);
 }
 
 TEST_F(Findings, OfALookThatEndsLateAreDropped) {
