@@ -1,9 +1,8 @@
 #include "desktop/FormBinder.h"
 
+#include <QApplication>
 #include <QButtonGroup>
-#include <QContextMenuEvent>
 #include <QFocusEvent>
-#include <QMouseEvent>
 #include <QRadioButton>
 #include <algorithm>
 #include <set>
@@ -15,13 +14,18 @@ namespace kestedit {
 
 namespace {
 
-/// Mouse buttons as the form counts them.
-int buttonNumber(Qt::MouseButton button) {
-    return button == Qt::LeftButton ? 1 : button == Qt::RightButton ? 2 : 4;
-}
-
 bool isInput(const Binding& binding) {
     return !binding.focusWidgets().empty() && binding.control().Kind != ControlKind::nodeList;
+}
+
+bool hasFocus(const Binding& binding) {
+    return std::ranges::any_of(binding.focusWidgets(), &QWidget::hasFocus);
+}
+
+/// While a question stands in front of the window, the focus wanders behind it without the user's doing.
+bool isBehindQuestion(const Binding& binding) {
+    const QWidget* const front = QApplication::activeModalWidget();
+    return front && front != binding.widget().window();
 }
 
 const QWidget& pageOf(const QWidget& widget) {
@@ -132,14 +136,6 @@ bool FormBinder::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::FocusOut:
             focusLost(*binding, static_cast<QFocusEvent*>(event)->reason());
             return false;
-        case QEvent::MouseButtonPress: {
-            const int button = buttonNumber(static_cast<QMouseEvent*>(event)->button());
-            if (binding->isField()) gate_.hand([&](frmEdit& form) { form.onMousePressed(binding->control(), button); });
-            return false;
-        }
-        case QEvent::ContextMenu:
-            return binding->control().SuppressContextMenu &&
-                   static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Mouse;
         case QEvent::Wheel:
             // A page is scrolled over a field without the focus; the field must not change on the way.
             if (!binding->takesWheel() || static_cast<QWidget*>(watched)->hasFocus()) return false;
@@ -151,16 +147,19 @@ bool FormBinder::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void FormBinder::focusGained(Binding& binding) {
-    if (gate_.form().FocusedControl == &binding.control()) return;
-    gate_.hand([&](frmEdit& form) { form.onFocused(binding.control()); });
+    if (gate_.form().FocusedControl == &binding.control() || isBehindQuestion(binding)) return;
+    gate_.hand([&binding](frmEdit& form) {
+        // May have waited for another event, and the focus gone on with it.
+        if (hasFocus(binding)) form.onFocused(binding.control());
+    });
 }
 
 // A menu, a list that drops down or another window takes the focus for a moment only.
 void FormBinder::focusLost(Binding& binding, Qt::FocusReason reason) {
     const bool back =
         reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason || reason == Qt::ActiveWindowFocusReason;
-    if (back || !binding.isField()) return;
-    gate_.hand([&](frmEdit& form) { form.onEditingFinished(binding.control()); });
+    if (back || !binding.isField() || isBehindQuestion(binding)) return;
+    gate_.hand([&binding](frmEdit& form) { form.onEditingFinished(binding.control()); });
 }
 
 }  // namespace kestedit

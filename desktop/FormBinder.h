@@ -17,7 +17,7 @@ namespace kestedit {
 /// Set on the root widget of a page: names are looked up inside of it.
 inline constexpr const char* pageProperty = "page";
 
-/// Keeps the bindings of a window, listens to focus, mouse and wheel at their widgets, and gives every input the name
+/// Keeps the bindings of a window, listens to focus and wheel at their widgets, and gives every input the name
 /// that a screen reader says.
 ///
 /// A widget tells with two dynamic properties what its caption cannot: "labelledBy" names the widgets whose caption it

@@ -68,40 +68,60 @@ FormWindow::~FormWindow() {
 
 // ---- events
 
-std::optional<std::string> FormWindow::hand(const std::function<void(frmEdit&)>& event) {
-    // While a question stands in front, focus wanders without the user's doing.
-    if (handling_ || !form_.isOpen()) return std::nullopt;
+// What the user did is handed over one after the other: a command that turns the page takes the focus from a field, and
+// the end of that editing counts as much as the command.
+void FormWindow::hand(Event event, Binding* field) {
+    waiting_.push_back({std::move(event), field});
+    if (handling_) return;
     const While handling(handling_);
+    while (!waiting_.empty() && form_.isOpen()) {
+        const Waiting next = std::move(waiting_.front());
+        waiting_.pop_front();
+        handle(next);
+    }
+    waiting_.clear();
+}
+
+void FormWindow::handle(const Waiting& waiting) {
     const EditorControl* const focused = form_.FocusedControl;
     PageArea* const area = currentPage();
     QWidget* const anchor = area && area->isAncestorOf(focusWidget()) ? focusWidget() : nullptr;
     const int place = anchor ? area->placeOf(*anchor) : 0;
 
-    std::optional<std::string> refusal;
+    takeOver(waiting);
+    if (!form_.isOpen()) return done(Accepted);
+    refresh();
+    if (anchor && area == currentPage() && anchor->isVisible()) area->bringBack(*anchor, place);
+    showFocus(focused);
+}
+
+void FormWindow::takeOver(const Waiting& waiting) {
+    std::string refusal;
     try {
-        event(form_);
+        waiting.event(form_);
     } catch (const EventRefused& refused) {
         refusal = refused.what();
     } catch (const std::exception& failure) {
         refresh();
-        tellFailure(failure.what());
+        tell(failure.what(), MessageIcon::error);
     }
-    if (!form_.isOpen()) {
-        done(Accepted);
-        return refusal;
+    // It stands until the user has done something else at any field: until then, nothing moves under the pointer.
+    if (waiting.field) {
+        if (refused_) refused_->setRefusal({});
+        waiting.field->setRefusal(refusal);
+        refused_ = waiting.field;
     }
+    if (refusal.empty()) return;
     refresh();
-    if (anchor && area == currentPage() && anchor->isVisible()) area->bringBack(*anchor, place);
-    showFocus(focused);
-    return refusal;
+    if (!waiting.field || !waiting.field->showsNotice()) tell(refusal, MessageIcon::information);
 }
 
 void FormWindow::reject() {
-    hand([](frmEdit& form) { form.onCommand(form.cmdCancel); });
+    if (!handling_) hand([](frmEdit& form) { form.onCommand(form.cmdCancel); });
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {
-    hand([](frmEdit& form) { form.onCloseBox(); });
+    if (!handling_) hand([](frmEdit& form) { form.onCloseBox(); });
     event->setAccepted(!form_.isOpen());
 }
 
@@ -134,16 +154,15 @@ bool FormWindow::focusNextPrevChild(bool next) {
     return true;
 }
 
-void FormWindow::tellFailure(const std::string& reason) {
-    static_cast<void>(
-        form_.platform().prompts.showMessage({form_.values().AppTitle, reason, Buttons::ok, MessageIcon::error}));
+void FormWindow::tell(const std::string& reason, MessageIcon icon) {
+    static_cast<void>(form_.platform().prompts.showMessage({form_.values().AppTitle, reason, Buttons::ok, icon}));
 }
 
 void FormWindow::showHelp() {
     hand([this](frmEdit& form) {
         const auto file = form.onHelpKey();
         if (!file || QDesktopServices::openUrl(QUrl::fromLocalFile(toQt(*file)))) return;
-        tellFailure(textOf(form.texts(), TextId::helpNotOpened) + "\r\n" + *file);
+        tell(textOf(form.texts(), TextId::helpNotOpened) + "\r\n" + *file, MessageIcon::error);
     });
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDialog>
+#include <deque>
 #include <map>
 
 #include "desktop/Background.h"
@@ -48,7 +49,16 @@ class FormWindow : public QDialog, private EventGate {
 
   private:
     [[nodiscard]] const frmEdit& form() const override { return form_; }
-    std::optional<std::string> hand(const std::function<void(frmEdit&)>& event) override;
+    using EventGate::hand;
+    void hand(Event event, Binding* field) override;
+
+    /// An event that waits until the one before it has been handled.
+    struct Waiting {
+        Event event;
+        Binding* field;  // not owned
+    };
+    void handle(const Waiting& waiting);
+    void takeOver(const Waiting& waiting);
 
     // make-up
     void buildFrame();
@@ -62,7 +72,7 @@ class FormWindow : public QDialog, private EventGate {
     // showing
     void showFrontPage();
     void showFocus(const EditorControl* before);
-    void tellFailure(const std::string& reason);
+    void tell(const std::string& reason, MessageIcon icon);
     void showHelp();
 
     frmEdit& form_;
@@ -73,6 +83,8 @@ class FormWindow : public QDialog, private EventGate {
     QStackedWidget* stack_ = nullptr;
     NodeList* list_ = nullptr;
     bool handling_ = false;
+    std::deque<Waiting> waiting_;
+    Binding* refused_ = nullptr;  // whose event was refused last, perhaps; not owned
     bool painted_ = false;
     Background background_;  // goes first: it waits for looks at folders
 };

@@ -78,8 +78,9 @@ void FormWindow::buildFrame() {
 void FormWindow::addShortcuts() {
     const auto command = [this](const QKeySequence& keys, EditorControl& button) {
         auto* shortcut = new QShortcut(keys, this);
-        connect(shortcut, &QShortcut::activated, this,
-                [this, &button] { hand([&button](frmEdit& form) { form.onCommand(button); }); });
+        connect(shortcut, &QShortcut::activated, this, [this, &button] {
+            hand([&button](frmEdit& form) { form.onCommand(button); }, binder_.bindingOf(button));
+        });
     };
     command(QKeySequence(Qt::CTRL | Qt::Key_S), form_.cmdSave);
     command(QKeySequence(Qt::CTRL | Qt::Key_PageUp), form_.cmdPrevious);

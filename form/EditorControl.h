@@ -66,8 +66,7 @@ struct KESTEDIT_EXPORT EditorControl {
     int State = 0;  ///< 0 clear, 1 set, 2 grey; every test is whether it equals 1
     bool Enabled = true;
     bool Visible = true;
-    bool ReadOnly = false;             ///< the user cannot type into it; its inner buttons still work
-    bool SuppressContextMenu = false;  ///< a right click does not open the field's own menu
+    bool ReadOnly = false;  ///< the user cannot type into it; its inner buttons still work
     bool TabStop = true;
     int TabIndex = -1;  ///< -1: not in the tab sequence
     std::string Caption;

@@ -5,6 +5,8 @@
 
 #include "desktop/Text.h"
 #include "desktop/bindings/Kinds.h"
+#include "desktop/bindings/NoticePlace.h"
+#include "desktop/widgets/NoticeLabel.h"
 
 namespace kestedit {
 
@@ -33,7 +35,40 @@ bool Binding::refresh() {
     shown_.first = false;
     showTabStop();
     showContent();
+    showNotice();
     return renamed;
+}
+
+void Binding::showNotice() {
+    const std::string& wanted = refusal_.empty() ? control_.Notice : refusal_;
+    if (!wanted.empty() && !notice_) {
+        notice_ = new NoticeLabel(&widget_);
+        notice_->setObjectName(widget_.objectName() + noticeSuffix);
+        notice_->hide();
+    }
+    if (!notice_) return;
+    // A view may have moved the widget to another page since.
+    if (placed_ != widget_.parentWidget()) {
+        if (!placeNotice(*notice_)) return;
+        placed_ = widget_.parentWidget();
+    }
+    if (shown_.notice != wanted) {
+        shown_.notice = wanted;
+        const QString text = linesToQt(wanted);
+        notice_->setText(text);
+        for (QWidget* described : describedWidgets())
+            described->setAccessibleDescription(text);
+    }
+    const bool visible = control_.Visible && !wanted.empty();
+    if (notice_->isHidden() == visible) notice_->setVisible(visible);
+}
+
+bool Binding::showsNotice() const {
+    return notice_ && notice_->isVisible();
+}
+
+bool Binding::placeNotice(NoticeLabel& notice) {
+    return placeNoticeBelow(widget_, notice);
 }
 
 void Binding::showTabStop() {

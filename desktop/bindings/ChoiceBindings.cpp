@@ -7,6 +7,7 @@
 #include <span>
 
 #include "desktop/bindings/Kinds.h"
+#include "desktop/bindings/NoticePlace.h"
 
 namespace kestedit {
 
@@ -17,7 +18,7 @@ class CheckBinding final : public Binding {
     CheckBinding(EditorControl& control, QCheckBox& box, EventGate& gate) : Binding(control, box, gate), box_(box) {
         QObject::connect(&box, &QCheckBox::clicked, &box, [this] {
             const int state = box_.isChecked() ? 1 : 0;
-            this->gate().hand([this, state](frmEdit& form) { form.onCheckClicked(this->control(), state); });
+            hand([this, state](frmEdit& form) { form.onCheckClicked(this->control(), state); });
         });
     }
 
@@ -41,9 +42,8 @@ class OptionBinding final : public Binding {
   public:
     OptionBinding(EditorControl& control, QRadioButton& button, EventGate& gate)
         : Binding(control, button, gate), button_(button), members_(gate.form().group(control.Base)) {
-        QObject::connect(&button, &QRadioButton::clicked, &button, [this] {
-            this->gate().hand([this](frmEdit& form) { form.onOptionChosen(this->control()); });
-        });
+        QObject::connect(&button, &QRadioButton::clicked, &button,
+                         [this] { hand([this](frmEdit& form) { form.onOptionChosen(this->control()); }); });
     }
 
     [[nodiscard]] std::vector<QWidget*> focusWidgets() const override { return {&button_}; }
@@ -69,6 +69,19 @@ class OptionBinding final : public Binding {
         const bool stop = control().TabStop && (control().isSet() || !another);
         const Qt::FocusPolicy policy = stop ? Qt::StrongFocus : Qt::ClickFocus;
         if (button_.focusPolicy() != policy) button_.setFocusPolicy(policy);
+    }
+
+    // A group is one question, and its notice stands below the last answer.
+    bool placeNotice(NoticeLabel& notice) override {
+        const QRadioButton* last = &button_;
+        for (const auto* sibling :
+             button_.parentWidget()->findChildren<QRadioButton*>(QString(), Qt::FindDirectChildrenOnly))
+            if (sibling->group() == button_.group()) last = sibling;
+        return placeNoticeBelow(*last, notice);
+    }
+    [[nodiscard]] std::vector<QWidget*> describedWidgets() const override {
+        const auto buttons = button_.group()->buttons();
+        return {buttons.begin(), buttons.end()};
     }
 
   private:

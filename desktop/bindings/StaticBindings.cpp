@@ -5,9 +5,11 @@
 #include "desktop/Icons.h"
 #include "desktop/Text.h"
 #include "desktop/bindings/Kinds.h"
-#include "desktop/widgets/Heading.h"
+#include "desktop/bindings/NoticePlace.h"
+#include "desktop/widgets/FieldLabel.h"
 #include "desktop/widgets/NodeList.h"
 #include "editor/ImageMeaning.h"
+#include "editor/modSpinButtons.h"
 
 namespace kestedit {
 
@@ -22,12 +24,21 @@ class FrameBinding final : public Binding {
     void showVisible(bool visible) override {
         if (control().Container) Binding::showVisible(visible);
     }
+    bool placeNotice(NoticeLabel& notice) override { return placeNoticeInside(widget(), notice); }
+    [[nodiscard]] std::vector<QWidget*> describedWidgets() const override { return {&widget()}; }
 };
 
 class LabelBinding final : public Binding {
   public:
     LabelBinding(EditorControl& control, QLabel& label, EventGate& gate)
-        : Binding(control, label, gate), label_(label) {}
+        : Binding(control, label, gate), label_(label) {
+        QStringList captions;
+        for (const std::string& caption : UnitCaptions(gate.form(), control))
+            captions += toQt(caption);
+        if (auto* const unit = qobject_cast<FieldLabel*>(&label); unit && !captions.isEmpty()) {
+            unit->setAlternatives(captions);
+        }
+    }
 
   protected:
     void showCaption(const QString& caption) override {
@@ -43,7 +54,7 @@ class CommandBinding final : public Binding {
     CommandBinding(EditorControl& control, QPushButton& button, EventGate& gate)
         : Binding(control, button, gate), button_(button) {
         QObject::connect(&button, &QPushButton::clicked, &button,
-                         [this] { this->gate().hand([this](frmEdit& form) { form.onCommand(this->control()); }); });
+                         [this] { hand([this](frmEdit& form) { form.onCommand(this->control()); }); });
     }
 
     [[nodiscard]] std::vector<QWidget*> focusWidgets() const override { return {&button_}; }
@@ -83,11 +94,10 @@ class NodeListBinding final : public Binding {
   public:
     NodeListBinding(EditorControl& control, NodeList& list, EventGate& gate)
         : Binding(control, list, gate), list_(list) {
-        QObject::connect(&list, &NodeList::nodeChosen, &list, [this](int position) {
-            this->gate().hand([position](frmEdit& form) { form.onNodeClicked(position); });
-        });
+        QObject::connect(&list, &NodeList::nodeChosen, &list,
+                         [this](int position) { hand([position](frmEdit& form) { form.onNodeClicked(position); }); });
         QObject::connect(&list, &NodeList::arrowPressed, &list,
-                         [this](int code) { this->gate().hand([code](frmEdit& form) { form.onNodeKey(code); }); });
+                         [this](int code) { hand([code](frmEdit& form) { form.onNodeKey(code); }); });
     }
 
     [[nodiscard]] std::vector<QWidget*> focusWidgets() const override { return {&list_}; }

@@ -4,12 +4,10 @@
 #include <QSignalBlocker>
 #include <QTextCursor>
 #include <QTextDocument>
-#include <QToolTip>
 
 #include "desktop/Text.h"
 #include "desktop/bindings/Kinds.h"
 #include "desktop/bindings/LineText.h"
-#include "desktop/widgets/NoticeLabel.h"
 #include "desktop/widgets/PasswordEdit.h"
 #include "desktop/widgets/PathEdit.h"
 #include "i18n/Texts.h"
@@ -18,27 +16,26 @@ namespace kestedit {
 
 namespace {
 
-/// A text that the job file cannot hold is told right at the field.
-void showRefusal(const QWidget& field, const std::optional<std::string>& reason) {
-    if (reason) QToolTip::showText(field.mapToGlobal(QPoint(0, field.height())), toolTipText(*reason));
+/// Line ends as "\n"; a blank that does not break stays one, unlike in the editor's own plain text.
+QString textOf(const QPlainTextEdit& memo) {
+    QString text = memo.document()->toRawText();
+    for (const char16_t end : {QChar::ParagraphSeparator, QChar::LineSeparator})
+        text.replace(QChar(end), u'\n');
+    return text;
 }
 
 /// A line of text; the line may be a part of the widget.
 class LineBinding : public Binding {
   public:
     LineBinding(EditorControl& control, QWidget& widget, QLineEdit& line, EventGate& gate)
-        : Binding(control, widget, gate),
-          line_(line),
-          notice_(widget.parentWidget()->findChild<NoticeLabel*>(widget.objectName() + QLatin1String("_notice"))) {
+        : Binding(control, widget, gate), line_(line) {
         QObject::connect(&line, &QLineEdit::textEdited, &line, [this](const QString& text) {
             userChanged_ = true;
-            showRefusal(line_, this->gate().hand(
-                                   [this, &text](frmEdit& form) { form.onTextTyped(this->control(), fromQt(text)); }));
+            hand([this, typed = fromQt(text)](frmEdit& form) { form.onTextTyped(this->control(), typed); });
             userChanged_ = false;
         });
-        QObject::connect(&line, &QLineEdit::returnPressed, &line, [this] {
-            this->gate().hand([this](frmEdit& form) { form.onEditingFinished(this->control()); });
-        });
+        QObject::connect(&line, &QLineEdit::returnPressed, &line,
+                         [this] { hand([this](frmEdit& form) { form.onEditingFinished(this->control()); }); });
     }
 
     [[nodiscard]] std::vector<QWidget*> focusWidgets() const override { return {&line_}; }
@@ -56,20 +53,10 @@ class LineBinding : public Binding {
             userChanged_ ? replaceUserChange(line_, wanted) : replaceText(line_, wanted);
         }
         first_ = false;
-        showNotice();
     }
 
   private:
-    void showNotice() {
-        if (!notice_) return;
-        const QString notice = toQt(control().Notice);
-        if (notice_->text() != notice) notice_->setText(notice);
-        notice_->setVisible(!notice.isEmpty());
-        line_.setAccessibleDescription(notice);
-    }
-
     QLineEdit& line_;
-    NoticeLabel* const notice_;  // shows the control's Notice; null for most fields
     bool first_ = true;
     bool userChanged_ = false;
 };
@@ -96,6 +83,7 @@ class PathBinding final : public LineBinding {
         edit.setButtonTexts(toQt(textOf(texts(), TextId::browseButton)),
                             toQt(textOf(texts(), TextId::newFolderButton)));
         QObject::connect(&edit, &PathEdit::buttonPressed, &edit, [this](int button) {
+            // The user has just left a chooser and looks for what became of the choice: a refusal is a message.
             this->gate().hand([this, button](frmEdit& form) { form.onInnerButton(this->control(), button); });
         });
     }
@@ -116,9 +104,7 @@ class MemoBinding final : public Binding {
         : Binding(control, memo, gate), memo_(memo) {
         QObject::connect(&memo, &QPlainTextEdit::textChanged, &memo, [this] {
             userChanged_ = true;
-            const std::string text = fromQt(memo_.toPlainText());
-            showRefusal(memo_,
-                        this->gate().hand([this, &text](frmEdit& form) { form.onTextTyped(this->control(), text); }));
+            hand([this, typed = fromQt(textOf(memo_))](frmEdit& form) { form.onTextTyped(this->control(), typed); });
             userChanged_ = false;
         });
     }
@@ -131,11 +117,11 @@ class MemoBinding final : public Binding {
 
     void showContent() override {
         const QString wanted = linesToQt(control().text());
-        if (memo_.toPlainText() == wanted) return;
+        if (textOf(memo_) == wanted) return;
         const QSignalBlocker quiet(memo_);
         // A refused change is taken back; undo goes on from the text before it.
         if (userChanged_) memo_.undo();
-        if (memo_.toPlainText() != wanted) memo_.setPlainText(wanted);
+        if (textOf(memo_) != wanted) memo_.setPlainText(wanted);
     }
 
   private:

@@ -1,14 +1,17 @@
 // Fields that hold a number, a date, a time of day or an entry of a list.
 #include <QComboBox>
 #include <QLineEdit>
+#include <algorithm>
 #include <cstddef>
 #include <cstdlib>
+#include <string>
 
 #include "desktop/Text.h"
 #include "desktop/bindings/Kinds.h"
 #include "desktop/widgets/DateEdit.h"
 #include "desktop/widgets/NumberEdit.h"
 #include "desktop/widgets/TimeEdit.h"
+#include "editor/NumberRanges.h"
 
 namespace kestedit {
 
@@ -37,7 +40,7 @@ class PickBinding final : public ValueBinding<QComboBox> {
         box.setFocusPolicy(Qt::StrongFocus);
         box.setSizeAdjustPolicy(QComboBox::AdjustToContents);
         QObject::connect(&box, &QComboBox::activated, &box, [this](int index) {
-            this->gate().hand([this, index](frmEdit& form) { form.onItemPicked(this->control(), index); });
+            this->hand([this, index](frmEdit& form) { form.onItemPicked(this->control(), index); });
         });
     }
 
@@ -61,12 +64,14 @@ class PickBinding final : public ValueBinding<QComboBox> {
 
 class NumberBinding : public ValueBinding<NumberEdit> {
   public:
-    NumberBinding(EditorControl& control, NumberEdit& edit, EventGate& gate) : ValueBinding(control, edit, gate) {
+    NumberBinding(EditorControl& control, NumberEdit& edit, EventGate& gate)
+        : ValueBinding(control, edit, gate), range_(numberRange(control.Base)) {
+        edit.setDigits(static_cast<int>(std::to_string(range_.most).size()));
         QObject::connect(&edit, &NumberEdit::typed, &edit, [this](std::optional<std::int64_t> number) {
-            this->gate().hand([this, number](frmEdit& form) { form.onNumberTyped(this->control(), number); });
+            this->hand([this, number](frmEdit& form) { form.onNumberTyped(this->control(), number); });
         });
         QObject::connect(&edit, &NumberEdit::stepped, &edit,
-                         [this](int steps) { this->gate().hand([this, steps](frmEdit& form) { step(form, steps); }); });
+                         [this](int steps) { this->hand([this, steps](frmEdit& form) { step(form, steps); }); });
     }
 
   protected:
@@ -76,7 +81,13 @@ class NumberBinding : public ValueBinding<NumberEdit> {
         const std::optional<std::int64_t> number = held ? std::optional{*held} : std::nullopt;
         if (edit().number() != number) edit().setNumber(number);
     }
-    virtual void step(frmEdit& form, int steps) { form.onNumberTyped(control(), control().number() + steps); }
+    // A step at the end of the range leads nowhere, and there is nothing to say about it.
+    virtual void step(frmEdit& form, int steps) {
+        form.onNumberTyped(control(), std::clamp(control().number() + steps, range_.least, range_.most));
+    }
+
+  private:
+    const NumberRange range_;
 };
 
 /// Steps are the form's: they carry into the next unit.
@@ -99,7 +110,7 @@ class DateBinding final : public ValueBinding<DateEdit> {
         edit.setCalendarTexts(toQt(strings[today]), toQt(strings[clear]));
         QObject::connect(&edit, &DateEdit::chosen, &edit, [this] {
             const std::optional<Date> date = this->edit().content();
-            this->gate().hand([this, date](frmEdit& form) { form.onDateChosen(this->control(), date); });
+            this->hand([this, date](frmEdit& form) { form.onDateChosen(this->control(), date); });
         });
     }
 
@@ -122,7 +133,7 @@ class TimeBinding final : public ValueBinding<TimeEdit> {
     TimeBinding(EditorControl& control, TimeEdit& edit, EventGate& gate) : ValueBinding(control, edit, gate) {
         QObject::connect(&edit, &TimeEdit::chosen, &edit, [this] {
             const std::optional<TimeOfDay> time = this->edit().content();
-            this->gate().hand([this, time](frmEdit& form) { form.onTimeChosen(this->control(), time); });
+            this->hand([this, time](frmEdit& form) { form.onTimeChosen(this->control(), time); });
         });
     }
 

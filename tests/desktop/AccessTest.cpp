@@ -176,7 +176,9 @@ TEST_P(Names, EachMnemonicLeadsToOneWidgetOfThePageWhateverTheAction) {
         open("New", view);
         std::map<int, std::map<QString, const QWidget*>> pages;
         for (const int action : {0, 2, 3, 4, 5}) {  // to move shows what to copy does
-            press("optAction(" + std::to_string(action) + ")");
+            const std::string option = "optAction(" + std::to_string(action) + ")";
+            if (form().obstacle(at(option))) continue;
+            press(option);
             for (int node = 0; node < list().topLevelItemCount(); ++node) {
                 clickNode(node);
                 SCOPED_TRACE(title(static_cast<std::size_t>(node)) + ", action " + std::to_string(action));

@@ -6,14 +6,15 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QScrollBar>
-#include <QToolTip>
+#include <QTimer>
+#include <set>
 
 #include "desktop/widgets/DateEdit.h"
-#include "desktop/widgets/NoticeLabel.h"
 #include "desktop/widgets/NumberEdit.h"
 #include "desktop/widgets/PasswordEdit.h"
 #include "desktop/widgets/PathEdit.h"
 #include "desktop/widgets/TimeEdit.h"
+#include "editor/NumberRanges.h"
 #include "tests/desktop/WindowFixture.h"
 
 namespace kestedit::test {
@@ -48,18 +49,18 @@ TEST_F(Field, PatternSaysWhatItMeansAndWhatIsWrongWithIt) {
     open();
     press("optFileMatch(1)");
     auto& label = shownBy<QLabel>("lblFileName");
-    const auto& notice = *window().currentPage()->findChild<NoticeLabel*>("dxFileName_notice");
     EXPECT_TRUE(label.text().contains("*, ?"));
     enter("dxFileName", "a*b");
     press("chkRegExFile");
     EXPECT_TRUE(label.text().contains("RegEx"));
-    EXPECT_FALSE(notice.isVisible());
+    EXPECT_EQ(notice("dxFileName"), "");
     QTest::keyClicks(&line("dxFileName"), "(");
-    EXPECT_TRUE(notice.isVisible());
-    EXPECT_EQ(line("dxFileName").accessibleDescription(), notice.text());
+    EXPECT_NE(notice("dxFileName"), "");
+    EXPECT_EQ(line("dxFileName").accessibleDescription(), notice("dxFileName"));
     EXPECT_EQ(at("dxFileName").text(), "a*b(");
     QTest::keyClicks(&line("dxFileName"), ")");
-    EXPECT_FALSE(notice.isVisible());
+    EXPECT_EQ(notice("dxFileName"), "");
+    EXPECT_EQ(line("dxFileName").accessibleDescription(), "");
 }
 
 TEST_F(Field, TextThatTheJobCannotHoldIsToldAndNotTaken) {
@@ -67,10 +68,44 @@ TEST_F(Field, TextThatTheJobCannotHoldIsToldAndNotTaken) {
     enter("dxName", "Plan日b");
     EXPECT_EQ(line("dxName").text(), "Planb");
     EXPECT_EQ(at("dxName").text(), "Planb");
-    EXPECT_FALSE(QToolTip::text().isEmpty());
+    enter("dxName", "日");
+    EXPECT_TRUE(notice("dxName").contains(u'日'));
     enter("dxComment", "one\ntwo日");
     EXPECT_EQ(shownBy<QPlainTextEdit>("dxComment").toPlainText(), "one\ntwo");
     EXPECT_EQ(at("dxComment").text(), "one\r\ntwo");
+    EXPECT_EQ(focusOf("dxComment").accessibleDescription(), notice("dxComment"));
+    EXPECT_TRUE(notice("dxComment").contains(u'日'));
+    EXPECT_EQ(notice("dxName"), "");
+    press("optIntervall(1)");
+    press("optIntTime(2)");
+    enter("dxIntMonthDay", "32");
+    EXPECT_EQ(at("dxIntMonthDay").number(), 3);
+    EXPECT_TRUE(notice("dxIntMonthDay").contains("31"));
+}
+
+TEST_F(Field, AChoiceThatTheJobCannotHoldIsToldInAMessage) {
+    open();
+    press("chkExecDo");
+    for (const char* name : {"dxSource", "dxExecPath"}) {
+        turnTo(name);
+        prompts.choices = {"/srv/two\nlines"};
+        prompts.answers = {Answer::ok};
+        QTest::mouseClick(shownBy<PathEdit>(name).buttons().front(), Qt::LeftButton);
+        ASSERT_TRUE(prompts.answers.empty()) << name;
+        EXPECT_NE(prompts.messages.back().text.find("two"), std::string::npos);
+        EXPECT_EQ(line(name).text(), "");
+    }
+}
+
+TEST_F(Field, BlanksInNotesThatDoNotBreakStayOnes) {
+    putJob("Night", "[Job]\r\nName=Night\r\nComment=10\xA0km\r\n");
+    openJob("Night");
+    auto& notes = shownBy<QPlainTextEdit>("dxComment");
+    notes.moveCursor(QTextCursor::End);
+    QTest::keyClicks(&notes, " away");
+    EXPECT_EQ(at("dxComment").text(), "10\u00A0km away");
+    enter("dxComment", "5\u00A0m\nhigh");
+    EXPECT_EQ(at("dxComment").text(), "5\u00A0m\r\nhigh");
 }
 
 TEST_F(Field, WheelPassesOverFieldsWithoutTheFocus) {
@@ -114,8 +149,31 @@ TEST_F(Field, NumberMayBeEmptyAndLargeAndKeepsItsRange) {
     EXPECT_EQ(shownBy<NumberEdit>("dxIntMonthDay").text(), "30");
 }
 
+TEST_F(Field, NumbersShowTheLargestThatTheyTakeWhole) {
+    std::ofstream(values.INIFile) << "[EditWin]\r\nDisableInsteadOfHide=1\r\n";
+    open().makeAllPages();
+    for (const auto& shown : window().binder().bindings()) {
+        auto* const edit = qobject_cast<NumberEdit*>(&shown->widget());
+        if (!edit) continue;
+        turnTo(shown->control().Name());
+        edit->setNumber(numberRange(shown->control().Base).most);
+        const int text = edit->line().fontMetrics().horizontalAdvance(edit->text());
+        EXPECT_GE(edit->line().width() - 5, text) << shown->control().Name();  // its margins and the caret
+    }
+}
+
 TEST_F(Field, NumbersHaveTheirUnitBesideThem) {
     open();
+    turnTo("dxHours");
+    const QPoint place = binding("dxMinutes").widget().pos();
+    std::set<QString> units;
+    for (const char* hours : {"0", "1", "2"}) {
+        enter("dxHours", hours);
+        settle();
+        EXPECT_EQ(binding("dxMinutes").widget().pos(), place) << hours;
+        units.insert(shownBy<QLabel>("lblHours").text());
+    }
+    EXPECT_EQ(units.size(), 2U);
     press("optSize(1)");
     press("optAge(1)");
     press("optIntervall(0)");
@@ -190,19 +248,45 @@ TEST_F(Field, LeavingAPathHasItLookedAt) {
     EXPECT_TRUE(QTest::qWaitFor([this] { return !at("lblChkPathMsg").Visible; }));
 }
 
-TEST_F(Field, RightClickOpensNoMenuWhereTheFormSaysSo) {
+// A command that turns the page takes the focus from a field while it is handled.
+TEST_F(Field, LeavingAPathByACommandHasItLookedAt) {
+    for (const auto& [key, with] : {std::pair{Qt::Key_PageDown, Qt::ControlModifier},
+                                    {Qt::Key_PageUp, Qt::ControlModifier},
+                                    {Qt::Key_W, Qt::AltModifier}}) {  // "&Weiter"
+        open();
+        press("optAction(2)");
+        EXPECT_TRUE(QTest::qWaitFor([this] { return at("lblChkPathMsg").Visible; }));
+        enter("dxSource", (jobs / "gone").c_str());
+        QTest::keyClick(&line("dxSource"), key, with);
+        EXPECT_TRUE(QTest::qWaitFor([this] { return visibleFrames() != "fraPath"; }));
+        EXPECT_TRUE(QTest::qWaitFor([this] { return at("lblChkPathMsg").Visible; })) << key;
+        EXPECT_EQ(at("lblChkPathMsg").Caption, "Das Quellverzeichnis existiert nicht.");
+        EXPECT_EQ(form().FocusedControl, &at("dxTreeList1"));
+    }
+}
+
+TEST_F(Field, RightClickOpensTheMenuOfEveryField) {
     open();
     const auto menuOn = [&](const char* name) {
-        QTest::mousePress(&line(name), Qt::RightButton);
-        QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(2, 2), line(name).mapToGlobal(QPoint(2, 2)));
-        QApplication::sendEvent(&line(name), &event);
-        QWidget* const menu = QApplication::activePopupWidget();
-        if (menu) menu->close();
-        return menu != nullptr;
+        QWidget& field = focusOf(name);
+        QTest::mousePress(&field, Qt::RightButton);
+        QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(4, 4), field.mapToGlobal(QPoint(4, 4)));
+        bool opened = false;
+        QTimer::singleShot(0, &field, [&opened] {  // some menus return when they have gone
+            QWidget* const menu = QApplication::activePopupWidget();
+            opened = menu != nullptr;
+            if (menu) menu->close();
+        });
+        QApplication::sendEvent(&field, &event);
+        settle();
+        return opened;
     };
-    EXPECT_FALSE(menuOn("dxName"));
-    press("optFileMatch(1)");
-    EXPECT_TRUE(menuOn("dxFileName"));
+    for (const char* option : {"optFileMatch(1)", "optExt(1)", "optSize(1)"})
+        press(option);
+    for (const char* name : {"dxName", "dxSource", "dxDest", "dxExt", "dxSize", "dxFileName"}) {
+        focus(name);
+        EXPECT_TRUE(menuOn(name)) << name;
+    }
 }
 
 }  // namespace

@@ -25,9 +25,14 @@ std::string longTexts(const std::string& file, const std::filesystem::path& to) 
     return to.string();
 }
 
-class Layout : public WindowTest, public testing::WithParamInterface<std::tuple<const char*, bool>> {
+struct Screen {
+    int fontSize;  ///< in points
+    QSize window;
+};
+
+class Layout : public WindowTest, public testing::WithParamInterface<std::tuple<const char*, bool, Screen>> {
   protected:
-    void SetUp() override { QApplication::setFont(QFont("DejaVu Sans", 14)); }
+    void SetUp() override { QApplication::setFont(QFont("DejaVu Sans", std::get<Screen>(GetParam()).fontSize)); }
     void TearDown() override {
         leave();
         QApplication::setFont(QFont("DejaVu Sans", 10));
@@ -35,12 +40,18 @@ class Layout : public WindowTest, public testing::WithParamInterface<std::tuple<
 
     void expectRoom(const QWidget& widget) {
         const QString name = widget.objectName();
-        if (widget.inherits("QLabel") || widget.inherits("QAbstractButton") || widget.inherits("QComboBox")) {
+        if (widget.inherits("QLabel") || widget.inherits("QAbstractButton") || widget.inherits("QComboBox") ||
+            widget.inherits("QAbstractSpinBox")) {
             EXPECT_GE(widget.width(), widget.minimumSizeHint().width()) << name.toStdString();
             const int wrapped = widget.heightForWidth(widget.width());
             EXPECT_GE(widget.height(), wrapped < 0 ? widget.minimumSizeHint().height() : wrapped) << name.toStdString();
         }
         EXPECT_TRUE(widget.parentWidget()->rect().contains(widget.geometry())) << name.toStdString();
+    }
+    void expectNoOverlap(const QWidget& widget) {
+        for (const auto* sibling : widget.parentWidget()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+            EXPECT_FALSE(sibling < &widget && sibling->isVisible() && sibling->geometry().intersects(widget.geometry()))
+                << widget.objectName().toStdString() << " lies over " << sibling->objectName().toStdString();
     }
 
     /// Every visible part of the page has its room, and the page scrolls as far as it reaches.
@@ -48,42 +59,74 @@ class Layout : public WindowTest, public testing::WithParamInterface<std::tuple<
         const PageArea& area = *window().currentPage();
         const QWidget& page = *area.widget();
         SCOPED_TRACE(page.objectName().toStdString() + ", action " + std::to_string(action));
-        for (const QWidget* widget : page.findChildren<QWidget*>())
-            if (widget->isVisible() && !widget->objectName().isEmpty() && !widget->objectName().startsWith("qt_"))
-                expectRoom(*widget);
+        for (const QWidget* widget : page.findChildren<QWidget*>()) {
+            if (!widget->isVisible() || widget->objectName().isEmpty() || widget->objectName().startsWith("qt_"))
+                continue;
+            expectRoom(*widget);
+            expectNoOverlap(*widget);
+        }
         EXPECT_GE(area.verticalScrollBar()->maximum(), page.height() - area.viewport()->height());
         EXPECT_GE(area.horizontalScrollBar()->maximum(), page.width() - area.viewport()->width());
+    }
+
+    /// What is wrong with every field at once, and with every group, page and schedule.
+    void noticeEverything(bool noticed) {
+        for (EditorControl* control : form().controls())
+            control->Notice = noticed ? "What stands here is not what you want: " + control->Name() : "";
+        for (EditorControl* finding : {&at("lblChkPathMsg"), &at("lblChkTimeMsg")}) {
+            finding->Caption = "The chosen date and time have already passed.";
+            finding->Visible = noticed;
+        }
+        window().refresh();
+        settle();
+    }
+
+    void expectNoticesBelowTheirFields() {
+        for (const auto& shown : window().binder().bindings()) {
+            const QWidget& widget = shown->widget();
+            const bool field = !shown->focusWidgets().empty() && shown->control().Kind != ControlKind::nodeList;
+            if (!widget.isVisible() || !field) continue;
+            const QString name = widget.objectName();
+            const auto* label = window().findChild<QLabel*>(name + noticeSuffix);
+            ASSERT_TRUE(label && label->isVisible()) << name.toStdString();
+            EXPECT_TRUE(label->text().endsWith(toQt(shown->control().Name())));
+            EXPECT_GT(label->y(), widget.geometry().bottom()) << name.toStdString();
+        }
     }
 };
 
 TEST_P(Layout, NothingIsClippedOrOutOfReach) {
-    const auto& [language, lengthened] = GetParam();
+    const auto& [language, lengthened, screen] = GetParam();
     setLanguage(language);
     if (lengthened) values.Language = longTexts(values.Language, folder.path() / "long.lng");
     std::ofstream(values.INIFile) << "[EditWin]\r\nDisableInsteadOfHide=1\r\n";
     open();
-    // 1024x768 at 100 % and at 200 %, in the toolkit's units.
-    for (const QSize screen : {QSize(1024, 768), QSize(512, 384)}) {
-        SCOPED_TRACE(screen.width());
-        window().resize(screen);
-        settle();
-        EXPECT_TRUE(QRect(QPoint(), screen).contains(QRect(QPoint(), window().size())));
-        for (const auto* button : window().findChildren<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly))
-            expectRoom(*button);
-        for (const int action : {0, 2, 3, 4, 5}) {
-            press("optAction(" + std::to_string(action) + ")");
+    window().resize(screen.window);
+    settle();
+    EXPECT_TRUE(QRect(QPoint(), screen.window).contains(QRect(QPoint(), window().size())));
+    for (const auto* button : window().findChildren<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly))
+        expectRoom(*button);
+    for (const int action : {0, 2, 3, 4, 5}) {
+        press("optAction(" + std::to_string(action) + ")");
+        expectPageFits(action);
+        // Of the other pages an action changes the paths', and those that stand behind the attributes'.
+        for (int node = 0; node < list().topLevelItemCount(); ++node) {
+            if (action != 0 && node != 2 && node < 11) continue;
+            clickNode(node);
             expectPageFits(action);
-            // Of the other pages an action changes the paths', and those that stand behind the attributes'.
-            for (int node = 0; node < list().topLevelItemCount(); ++node) {
-                if (action != 0 && node != 2 && node < 11) continue;
-                clickNode(node);
-                expectPageFits(action);
-            }
+            noticeEverything(true);
+            expectPageFits(action);
+            expectNoticesBelowTheirFields();
+            noticeEverything(false);
         }
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Texts, Layout, testing::Combine(testing::ValuesIn(languages), testing::Bool()));
+// 1024x768 at 100 % and at 200 %, in the toolkit's units; the smallest screen, also for eyes that want larger letters.
+INSTANTIATE_TEST_SUITE_P(Texts, Layout,
+                         testing::Combine(testing::ValuesIn(languages), testing::Bool(),
+                                          testing::Values(Screen{14, {1024, 768}}, Screen{14, {512, 384}},
+                                                          Screen{10, {800, 600}}, Screen{20, {800, 600}})));
 
 using Holes = WindowTest;
 
@@ -121,6 +164,35 @@ TEST_F(Holes, HiddenOptionsTakeNoRoomAndWhatIsClickedStaysUnderThePointer) {
     clickNode(0);
     turnTo("optIntTime(0)");
     EXPECT_EQ(area.widget()->minimumHeight(), 0);
+}
+
+TEST_F(Holes, AFindingLeavesHeadingAndFieldInTheirPlaces) {
+    open();
+    window().resize(800, 600);
+    turnTo("dxHours");
+    PageArea& area = *window().currentPage();
+    for (const char* hours : {"0", "3"}) {
+        enter("dxHours", hours);
+        settle();
+        EXPECT_EQ(binding("lblChkTimeMsg").widget().isVisible(), at("dxHours").number() == 0);
+        EXPECT_GE(area.placeOf(binding("lblExecution").widget()), 0);
+        EXPECT_FALSE(area.verticalScrollBar()->isVisible());
+        EXPECT_FALSE(area.horizontalScrollBar()->isVisible());
+    }
+}
+
+// A notice comes and goes with the box that is clicked: it stands below it.
+TEST_F(Holes, ANoticeComesWithoutMovingWhatBringsIt) {
+    open();
+    press("optFileMatch(1)");
+    enter("dxFileName", "a(");
+    QWidget& box = binding("chkRegExFile").widget();
+    for (const bool wrong : {true, false}) {
+        const QPoint place = box.mapTo(&window(), QPoint());
+        press("chkRegExFile");
+        EXPECT_EQ(!notice("dxFileName").isEmpty(), wrong);
+        EXPECT_EQ(box.mapTo(&window(), QPoint()), place);
+    }
 }
 
 }  // namespace

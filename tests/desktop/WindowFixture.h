@@ -14,6 +14,7 @@
 
 #include "desktop/FormWindow.h"
 #include "desktop/Text.h"
+#include "desktop/bindings/NoticePlace.h"
 #include "desktop/widgets/PageArea.h"
 #include "editor/Views.h"
 #include "tests/editor/EditorFixture.h"
@@ -59,6 +60,12 @@ class WindowTest : public EditorTest {
         return dynamic_cast<Widget&>(binding(name).widget());
     }
     QLineEdit& line(std::string_view name) { return dynamic_cast<QLineEdit&>(focusOf(name)); }
+    /// What stands beside the field; nothing when no notice does.
+    QString notice(std::string_view name) {
+        const QWidget& widget = binding(name).widget();
+        const auto* label = window().findChild<NoticeLabel*>(widget.objectName() + noticeSuffix);
+        return label && label->isVisible() ? label->text() : QString();
+    }
     QTreeWidget& list() { return shownBy<QTreeWidget>("dxTreeList1"); }
 
     void clickNode(int position) {
