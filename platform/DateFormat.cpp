@@ -8,6 +8,8 @@
 #include <stdexcept>
 #include <utility>
 
+#include "platform/CodePage.h"
+
 namespace kestedit {
 
 namespace {
@@ -112,11 +114,16 @@ DateFormat::DateFormat(std::string pattern) : pattern_(std::move(pattern)) {
 }
 
 DateFormat DateFormat::ofUserLocale() {
-    const std::string isoPattern = "yyyy-MM-dd";
     const locale_t locale = newlocale(LC_TIME_MASK, "", locale_t{});
-    if (locale == locale_t{}) return DateFormat(isoPattern);
+    if (locale == locale_t{}) return ofLocaleFormat("%F");
     const std::string format = nl_langinfo_l(D_FMT, locale);
     freelocale(locale);
+    return ofLocaleFormat(format);
+}
+
+DateFormat DateFormat::ofLocaleFormat(std::string_view format) {
+    const std::string isoPattern = "yyyy-MM-dd";
+    if (!CodePage(CodePage::western).encode(format)) return DateFormat(isoPattern);
     try {
         return DateFormat(patternOf(format).value_or(isoPattern));
     } catch (const std::invalid_argument&) {

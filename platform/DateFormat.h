@@ -21,6 +21,9 @@ class KESTEDIT_EXPORT DateFormat {
 
     /// The pattern of the user's locale (LC_TIME), its year widened to four digits.
     [[nodiscard]] static DateFormat ofUserLocale();
+    /// The same of a strftime format. yyyy-MM-dd when that has more than day, month and year in digits, or a character
+    /// outside code page 1252: a job file could not hold it, and no date may depend on the page of its file.
+    [[nodiscard]] static DateFormat ofLocaleFormat(std::string_view format);
 
     [[nodiscard]] const std::string& pattern() const { return pattern_; }
     [[nodiscard]] std::string text(Date date) const;

@@ -39,6 +39,19 @@ TEST(DateFormat, refusesPatternsThatAreNoDate) {
         EXPECT_THROW(DateFormat{pattern}, std::invalid_argument) << pattern;
 }
 
+TEST(DateFormat, aLocaleWhoseDateAJobCannotHoldStoresIsoDates) {
+    for (const auto& [format, pattern] : {std::pair{"%d.%m.%Y", "dd.MM.yyyy"},
+                                          {"%-m/%-d/%y", "M/d/yyyy"},
+                                          {"%e.%m.%Y", "d.MM.yyyy"},
+                                          {"%d\u00B7%m\u00B7%Y", "dd\u00B7MM\u00B7yyyy"},  // 1252 has this dot
+                                          {"%Y年%m月%d日", "yyyy-MM-dd"},
+                                          {"%Y년 %m월 %d일", "yyyy-MM-dd"},
+                                          {"%Y\xC7\xAF%m\xBF\xF9%d", "yyyy-MM-dd"},  // the same in another encoding
+                                          {"པསྱི་ལོ%yཟལ%mཚེས%d", "yyyy-MM-dd"},
+                                          {"%a %d %b %Y", "yyyy-MM-dd"}})
+        EXPECT_EQ(DateFormat::ofLocaleFormat(format).pattern(), pattern) << format;
+}
+
 TEST(DateFormat, theUsersLocaleGivesAPatternWithFourDigitsOfTheYear) {
     setenv("LC_ALL", "C", 1);
     EXPECT_EQ(DateFormat::ofUserLocale().pattern(), "MM/dd/yyyy");
