@@ -4,7 +4,7 @@ namespace kestedit {
 
 struct LinuxPlatform::State {
     State(Prompts& prompts, int codePage)
-        : ini(CodePage(codePage)), platform{ini, files, clock, dates, prompts, settings} {}
+        : ini(CodePage(codePage)), platform{ini, files, clock, dates, prompts, settings, TimeFormat::ofUserLocale()} {}
 
     IniStore ini;
     LocalFileSystem files;

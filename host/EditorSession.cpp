@@ -26,7 +26,7 @@ EditorSession::EditorSession(EditorOptions options, Prompts& prompts)
       clock_(makeClock(options_.now)),
       dates_(options_.dateFormat ? *options_.dateFormat : DateFormat::ofUserLocale()),
       settings_(userFolders().config / "user.ini"),
-      platform_{ini_, files_, *clock_, dates_, prompts, settings_} {
+      platform_{ini_, files_, *clock_, dates_, prompts, settings_, TimeFormat::ofUserLocale()} {
     if (options_.jobFile) static_cast<void>(ini_.open(*options_.jobFile));
 }
 

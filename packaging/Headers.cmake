@@ -17,6 +17,7 @@ set(public_headers
   platform/Platform.h
   platform/Prompts.h
   platform/StagedFile.h
+  platform/TimeFormat.h
   platform/UserSettings.h
   # for drivers of the form
   component/FrontEnd.h

@@ -111,6 +111,7 @@ DateFormat::DateFormat(std::string pattern) : pattern_(std::move(pattern)) {
     if (seen.size() != 3) {
         throw std::invalid_argument("date format \"" + pattern_ + "\": day, month or year is missing");
     }
+    order_ = std::move(seen);
 }
 
 DateFormat DateFormat::ofUserLocale() {
@@ -131,9 +132,9 @@ DateFormat DateFormat::ofLocaleFormat(std::string_view format) {
     }
 }
 
-std::string DateFormat::text(Date date) const {
+std::string DateFormat::textOf(std::string_view pattern, Date date) {
     std::string text;
-    for (std::string_view rest = pattern_; !rest.empty();) {
+    for (std::string_view rest = pattern; !rest.empty();) {
         const auto [letter, width] = takeField(rest);
         switch (letter) {
             case 'd':

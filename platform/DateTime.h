@@ -17,6 +17,10 @@ struct LocalTime {
     TimeOfDay time;
 };
 
+/// Whether a person is still at the text that is read. While typing goes on, a text that more keys could turn into
+/// something else, such as the "1/2/20" of "1/2/2026", says nothing yet.
+enum class Typing { underWay, finished };
+
 /// `date` moved by whole days, over month and year ends.
 [[nodiscard]] inline Date addDays(Date date, int days) {
     return Date{std::chrono::sys_days{date} + std::chrono::days{days}};

@@ -9,11 +9,12 @@
 #include "platform/FileSystem.h"
 #include "platform/IniStore.h"
 #include "platform/Prompts.h"
+#include "platform/TimeFormat.h"
 #include "platform/UserSettings.h"
 
 namespace kestedit {
 
-/// Owns nothing: whoever builds the bundle owns what stands behind it, and must keep it alive for as long as an
+/// Mostly references: whoever builds the bundle owns what stands behind it, and must keep it alive for as long as an
 /// editor that uses it is open.
 struct Platform {
     IniStore& ini;
@@ -22,6 +23,7 @@ struct Platform {
     const DateFormat& dates;
     Prompts& prompts;
     UserSettings& settings;
+    TimeFormat times{};  ///< how the user reads and types times of day; a job file has one form for all users
     /// Where the manual stands, in a folder of that name; nothing: in dataFolder().
     std::optional<std::filesystem::path> data = std::nullopt;
 };
