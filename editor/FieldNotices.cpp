@@ -13,6 +13,7 @@
 #include "editor/JobName.h"
 #include "editor/NumberRanges.h"
 #include "editor/RequiredFields.h"
+#include "editor/TypedMoments.h"
 #include "editor/Views.h"
 #include "editor/rules/paths.h"
 #include "editor/rules/schedule.h"
@@ -215,8 +216,14 @@ bool canHaveNotice(const EditorControl& control) {
 
 }  // namespace
 
-void RefreshNotices(FormModel& form, const modIniHandler& texts, const EditorControl* typing) {
+void RefreshNotices(FormModel& form, const modIniHandler& texts, const Platform& platform,
+                    const EditorControl* typing) {
     std::map<const EditorControl*, std::string> told;
+    for (const EditorControl* control : form.controls()) {
+        if (!holdsMoment(*control) || !canHaveNotice(*control)) continue;
+        const std::string notice = MomentNotice(*control, texts, platform);
+        if (!notice.empty()) told.emplace(control, notice);
+    }
     for (const NoticeRule& rule : noticeRules) {
         const EditorControl& control = form.at(rule.control);
         const bool unfinished = &control == typing && rule.telling == whenLeft && control.Notice.empty();

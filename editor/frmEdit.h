@@ -60,10 +60,12 @@ class KESTEDIT_EXPORT frmEdit : public FormModel {
     // ---- user events
     /// The text of a field is now `text`; one call for each change while typing, deleting or pasting. Refused, with the
     /// text before it kept, when the job file's code page cannot hold it. Line breaks in a memo become "\r\n", in any
-    /// other field blanks.
+    /// other field blanks. A date or time takes the value that its text says; one that says none is no refusal: the
+    /// value from before the typing stays.
     void onTextTyped(EditorControl& control, std::string_view text);
     /// The user has left a field or confirmed it: checks that look at the disk run now and not while typing, and a
-    /// finding about the field, which is not told while the user is still at it, is told now.
+    /// finding about the field, which is not told while the user is still at it, is told now. A date or time is read
+    /// for good, and told beside the field when its text says none.
     void onEditingFinished(EditorControl& control);
     /// A state or a choice that holds already is no change, and no rule runs.
     void onCheckClicked(EditorControl& control, int state);
@@ -95,6 +97,9 @@ class KESTEDIT_EXPORT frmEdit : public FormModel {
     [[nodiscard]] std::optional<std::string> onHelpKey();
     /// The window's close box: ends the editing without setting Cancelled.
     void onCloseBox();
+
+    /// What the field of a date or time shows: the text that is typed into it, or the value in the user's own form.
+    [[nodiscard]] std::string momentText(const EditorControl& control) const;
 
     /// Why a user cannot act on the control now ("dxSize is disabled"), or nothing. Page frames do not count: a script
     /// may act on a page that is not shown, as a user would after a click on its node.
@@ -128,6 +133,7 @@ class KESTEDIT_EXPORT frmEdit : public FormModel {
     [[nodiscard]] std::string installedManual() const;
     // saving
     [[nodiscard]] bool validate();
+    [[nodiscard]] bool momentsAreRead();
     void reportInvalid(EditorControl& control, std::size_t message);
     void save();
     void saveNew(const std::string& name);

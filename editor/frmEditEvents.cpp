@@ -9,6 +9,7 @@
 #include "editor/LineBreaks.h"
 #include "editor/NumberRanges.h"
 #include "editor/TextFilters.h"
+#include "editor/TypedMoments.h"
 #include "editor/frmEdit.h"
 #include "editor/modCompNodes.h"
 #include "editor/modSpinButtons.h"
@@ -95,11 +96,16 @@ void frmEdit::changed(EditorControl& control, bool typing) {
 }
 
 void frmEdit::refreshNotices() {
-    RefreshNotices(*this, ini_, typing_);
+    RefreshNotices(*this, ini_, platform_, typing_);
 }
 
 void frmEdit::onTextTyped(EditorControl& control, std::string_view text) {
-    requireReachable(control, {ControlKind::text, ControlKind::password, ControlKind::memo, ControlKind::path});
+    requireReachable(control, {ControlKind::text, ControlKind::password, ControlKind::memo, ControlKind::path,
+                               ControlKind::date, ControlKind::time});
+    if (holdsMoment(control)) {
+        TypeMoment(control, text, platform_);
+        return changed(control, true);
+    }
     if (control.ReadOnly) throw EventRefused(control.Name() + " is filled by its buttons only");
     if (!platform_.ini.codePage().encode(text)) throw EventRefused(UnstorableText(ini_, text));
     control.EditValue = control.Kind == ControlKind::memo ? windowsLines(text) : singleLine(text);
@@ -108,9 +114,17 @@ void frmEdit::onTextTyped(EditorControl& control, std::string_view text) {
     changed(control, true);
 }
 
+std::string frmEdit::momentText(const EditorControl& control) const {
+    return MomentText(control, platform_);
+}
+
 void frmEdit::onEditingFinished(EditorControl& control) {
     requireOpen();
     typing_ = nullptr;
+    if (control.Typed) {
+        EndTyping(control, platform_);
+        return changed(control);
+    }
     refreshNotices();
     if (control.Kind == ControlKind::path && &control != &dxExecPath) checkPaths();
     if (!timerRunning_) checkSchedule();
@@ -160,6 +174,7 @@ void frmEdit::onItemPicked(EditorControl& control, int position) {
 void frmEdit::onDateChosen(EditorControl& control, std::optional<Date> date) {
     requireReachable(control, {ControlKind::date});
     if (date && !date->ok()) throw EventRefused(control.Name() + " takes no such date");
+    control.Typed.reset();
     control.EditValue = date ? Value{*date} : Value{};
     changed(control);
 }
@@ -169,6 +184,7 @@ void frmEdit::onTimeChosen(EditorControl& control, std::optional<TimeOfDay> time
     if (time && (*time < TimeOfDay{0} || *time >= std::chrono::days{1})) {
         throw EventRefused(control.Name() + " takes no such time");
     }
+    control.Typed.reset();
     control.EditValue = time ? Value{*time} : Value{};
     changed(control);
 }

@@ -3,8 +3,9 @@
 
 #include "editor/JobName.h"
 #include "editor/RequiredFields.h"
-#include "editor/frmEdit.h"
+#include "editor/TypedMoments.h"
 #include "editor/Views.h"
+#include "editor/frmEdit.h"
 #include "i18n/Catalogue.h"
 #include "persistence/modSaveValues.h"
 #include "platform/Text.h"
@@ -50,10 +51,23 @@ bool frmEdit::validate() {
         this->*row.clears = false;
         return false;
     }
+    return momentsAreRead();
+}
+
+// The window would close over the notice about a text that is no date: the first save that meets it shows it instead.
+bool frmEdit::momentsAreRead() {
+    for (EditorControl* control : controls()) {
+        if (obstacle(*control) || !saysNothing(*control, platform_) || control->Typed->heldSave) continue;
+        control->Typed->heldSave = true;
+        open(*control);
+        return false;
+    }
     return true;
 }
 
 void frmEdit::save() {
+    for (EditorControl* control : controls())
+        if (control->Typed) onEditingFinished(*control);
     typing_ = nullptr;
     refreshNotices();
     if (!validate()) return;

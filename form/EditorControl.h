@@ -41,6 +41,14 @@ enum class ControlKind : std::uint8_t {
 /// The content of an editor: empty, text, number, date or time of day.
 using Value = std::variant<std::monostate, std::string, std::int64_t, Date, TimeOfDay>;
 
+/// What a user types into a date or time, until the field is left with a text that can be read.
+struct TypedMoment {
+    std::string text;
+    Value before;           ///< what the text is to replace, and what stays when it cannot be read
+    bool left = false;      ///< the field has been left with the text: what is wrong with it is told
+    bool heldSave = false;  ///< a save has stopped at it
+};
+
 class ControlRegistry;
 
 /// Setting a property runs nothing: whoever changes a control calls the rules that depend on it.
@@ -79,6 +87,7 @@ struct KESTEDIT_EXPORT EditorControl {
     /// What the job stores for this control and the control cannot show ("7" for a group of three, notes that are too
     /// long). A save writes it back for as long as the user has not changed the control. Of a group, that of member 0.
     std::optional<std::string> Unread;
+    std::optional<TypedMoment> Typed;  ///< of a date or time whose field shows this text in place of the value
 
     /// "optExist(2)", or the base name alone.
     [[nodiscard]] std::string Name() const;

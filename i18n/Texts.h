@@ -87,6 +87,11 @@ enum class TextId : std::uint8_t {
     actionNotInView,
     scheduleNotInView,
     numberRange,
+    noDateKept,
+    noDate,
+    noTimeKept,
+    noTime,
+    storedNoTime,
     // the window
     browseButton,
     newFolderButton,

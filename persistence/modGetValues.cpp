@@ -9,6 +9,7 @@
 #include "persistence/DurationMinutes.h"
 #include "persistence/JobFormat.h"
 #include "platform/Text.h"
+#include "platform/TimeFormat.h"
 
 namespace kestedit {
 
@@ -120,9 +121,17 @@ void loadDuration(const Loading& load, const JobRow& row, const DurationEditors&
     keepUnread(editors.days, text, total.has_value());
 }
 
+// What a person reads as a time: "14:05:00", "1:05:30", "2:05 pm", "14.05.00". But "0.25" may be a part of a day, and
+// "830" anything. A save makes midnight of "1", so it is shown as that.
+std::optional<TimeOfDay> storedTime(const std::string& text) {
+    if (text == "1") return TimeOfDay{0};
+    const bool isClock = text.find(':') != std::string::npos || std::ranges::count(text, '.') == 2;
+    return isClock ? TimeFormat{}.parseTyped(text) : std::nullopt;
+}
+
 // A text that is no time stays in the editor, so that a save gives it back.
 void loadTime(EditorControl& editor, std::string text) {
-    if (const auto time = parseTime(text)) {
+    if (const auto time = storedTime(text)) {
         editor.EditValue = *time;
     } else if (text.empty()) {
         editor.EditValue = std::monostate{};

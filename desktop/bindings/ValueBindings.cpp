@@ -8,14 +8,25 @@
 
 #include "desktop/Text.h"
 #include "desktop/bindings/Kinds.h"
+#include "desktop/bindings/LineText.h"
 #include "desktop/widgets/DateEdit.h"
+#include "desktop/widgets/MomentEdit.h"
 #include "desktop/widgets/NumberEdit.h"
-#include "desktop/widgets/TimeEdit.h"
 #include "editor/NumberRanges.h"
 
 namespace kestedit {
 
 namespace {
+
+QDate qtDate(Date date) {
+    return {static_cast<int>(date.year()), static_cast<int>(static_cast<unsigned>(date.month())),
+            static_cast<int>(static_cast<unsigned>(date.day()))};
+}
+
+Date dateFromQt(QDate date) {
+    return Date{std::chrono::year{date.year()}, std::chrono::month{static_cast<unsigned>(date.month())},
+                std::chrono::day{static_cast<unsigned>(date.day())}};
+}
 
 /// A field whose widget is its only focus and which the wheel changes.
 template <typename Widget>
@@ -102,22 +113,93 @@ class SpinBinding final : public NumberBinding {
     }
 };
 
-class DateBinding final : public ValueBinding<DateEdit> {
+/// Place in `shown` of the number in which the caret stood while it was typed: "5|.11.2026" is "05|.11.2026".
+int caretInSameNumber(const QString& typed, int caret, const QString& shown) {
+    const auto endsNumber = [](const QString& text, int at) {
+        return at > 0 && at < text.size() && text[at - 1].isDigit() && !text[at].isDigit();
+    };
+    int numbers = 0;
+    bool separated = false;
+    for (int at = 1; at < typed.size(); ++at) {
+        separated = separated || endsNumber(typed, at);
+        if (at < caret && endsNumber(typed, at)) ++numbers;
+    }
+    if (caret >= typed.size()) return static_cast<int>(shown.size());
+    for (int at = 0; at < shown.size(); ++at) {
+        if (separated && endsNumber(shown, at) && numbers-- == 0) return at;
+        if (!separated && shown[at].isDigit() && caret-- == 0) return at;
+    }
+    return static_cast<int>(shown.size());
+}
+
+/// A date or a time of day: what is typed is read by the form.
+class MomentBinding : public ValueBinding<MomentEdit> {
   public:
-    DateBinding(EditorControl& control, DateEdit& edit, EventGate& gate) : ValueBinding(control, edit, gate) {
-        edit.setDisplayFormat(toQt(gate.form().platform().dates.pattern()));
-        const auto& strings = gate.form().Localizer;
-        edit.setCalendarTexts(toQt(strings[today]), toQt(strings[clear]));
-        QObject::connect(&edit, &DateEdit::chosen, &edit, [this] {
-            const std::optional<Date> date = this->edit().content();
-            this->hand([this, date](frmEdit& form) { form.onDateChosen(this->control(), date); });
+    MomentBinding(EditorControl& control, MomentEdit& edit, EventGate& gate)
+        : ValueBinding(control, edit, gate) {
+        QObject::connect(&edit, &MomentEdit::typed, &edit, [this](const QString& text) {
+            hand([this, typed = fromQt(text)](frmEdit& form) { form.onTextTyped(this->control(), typed); });
+        });
+        QObject::connect(&edit, &MomentEdit::confirmed, &edit, [this] { endTyping(); });
+        QObject::connect(&edit, &MomentEdit::stepped, &edit, [this](int steps) {
+            const QString typed = this->edit().text();
+            const int caret = this->edit().caret();
+            endTyping();
+            const QString shown = this->edit().text();
+            const int place = shown == typed ? caret : caretInSameNumber(typed, caret, shown);
+            step(fromQt(shown.left(place)).size(), steps);
         });
     }
 
   protected:
+    [[nodiscard]] const Platform& platform() const { return gate().form().platform(); }
+    [[nodiscard]] std::string shownText() const { return gate().form().momentText(control()); }
+
     void showContent() override {
-        if (first_ || edit().content() != control().date()) edit().setContent(control().date());
-        first_ = false;
+        const QString wanted = toQt(shownText());
+        if (edit().text() != wanted) replaceText(edit().line(), wanted);
+    }
+
+    /// The user wants so many steps of what stands at that place of the text, which counts as the core counts.
+    virtual void step(std::size_t caret, int steps) = 0;
+
+    void select(const std::string& text, std::size_t begin, std::size_t length) {
+        edit().select(static_cast<int>(toQt(text.substr(0, begin)).size()),
+                      static_cast<int>(toQt(text.substr(begin, length)).size()));
+    }
+
+  private:
+    void endTyping() {
+        hand([this](frmEdit& form) { form.onEditingFinished(control()); });
+    }
+};
+
+class DateBinding final : public MomentBinding {
+  public:
+    DateBinding(EditorControl& control, DateEdit& edit, EventGate& gate)
+        : MomentBinding(control, edit, gate), edit_(edit) {
+        const auto& strings = gate.form().Localizer;
+        edit.setCalendarTexts(toQt(strings[today]), toQt(strings[clear]));
+        edit.setLongestText(toQt(platform().dates.text(Date{std::chrono::year{2000} / 10 / 20})));
+        QObject::connect(&edit, &DateEdit::chosen, &edit, [this](QDate date) { choose(dateFromQt(date)); });
+        QObject::connect(&edit, &DateEdit::todayChosen, &edit, [this] { choose(platform().clock.now().date); });
+        QObject::connect(&edit, &DateEdit::cleared, &edit, [this] { choose(std::nullopt); });
+    }
+
+  protected:
+    void showContent() override {
+        MomentBinding::showContent();
+        const auto date = control().date();
+        edit_.setDate(date ? std::optional{qtDate(*date)} : std::nullopt);
+    }
+
+    void step(std::size_t caret, int steps) override {
+        const auto date = control().date();
+        if (!date && shownText().empty()) return choose(platform().clock.now().date);
+        if (!date || control().Typed) return;  // a text that says no date
+        const auto [reached, begin, length] = platform().dates.step(*date, caret, steps);
+        choose(reached);
+        select(platform().dates.text(reached), begin, length);
     }
 
   private:
@@ -125,26 +207,33 @@ class DateBinding final : public ValueBinding<DateEdit> {
     static constexpr std::size_t clear = 0;
     static constexpr std::size_t today = 1;
 
-    bool first_ = true;
+    void choose(std::optional<Date> date) {
+        hand([this, date](frmEdit& form) { form.onDateChosen(control(), date); });
+    }
+
+    DateEdit& edit_;
 };
 
-class TimeBinding final : public ValueBinding<TimeEdit> {
+class TimeBinding final : public MomentBinding {
   public:
-    TimeBinding(EditorControl& control, TimeEdit& edit, EventGate& gate) : ValueBinding(control, edit, gate) {
-        QObject::connect(&edit, &TimeEdit::chosen, &edit, [this] {
-            const std::optional<TimeOfDay> time = this->edit().content();
-            this->hand([this, time](frmEdit& form) { form.onTimeChosen(this->control(), time); });
-        });
+    TimeBinding(EditorControl& control, MomentEdit& edit, EventGate& gate) : MomentBinding(control, edit, gate) {
+        edit.setLongestText(toQt(platform().times.text(TimeOfDay{std::chrono::days{1}} - TimeOfDay{1})));
     }
 
   protected:
-    void showContent() override {
-        if (first_ || edit().content() != control().time()) edit().setContent(control().time());
-        first_ = false;
+    void step(std::size_t caret, int steps) override {
+        const auto time = control().time();
+        if (!time && shownText().empty()) return choose(platform().clock.now().time);
+        if (!time || control().Typed) return;
+        const auto [reached, begin, length] = platform().times.step(*time, caret, steps);
+        choose(reached);
+        select(platform().times.text(reached), begin, length);
     }
 
   private:
-    bool first_ = true;
+    void choose(TimeOfDay time) {
+        hand([this, time](frmEdit& form) { form.onTimeChosen(control(), time); });
+    }
 };
 
 }  // namespace
@@ -166,7 +255,7 @@ std::unique_ptr<Binding> bindDate(EditorControl& control, QWidget& widget, Event
 }
 
 std::unique_ptr<Binding> bindTime(EditorControl& control, QWidget& widget, EventGate& gate) {
-    return std::make_unique<TimeBinding>(control, widgetAs<TimeEdit>(widget), gate);
+    return std::make_unique<TimeBinding>(control, widgetAs<MomentEdit>(widget), gate);
 }
 
 }  // namespace kestedit

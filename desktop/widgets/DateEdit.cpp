@@ -1,79 +1,93 @@
 #include "desktop/widgets/DateEdit.h"
 
-#include <QCalendarWidget>
-#include <QHBoxLayout>
-#include <QPushButton>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QStylePainter>
+
+#include "desktop/widgets/CalendarPopup.h"
 
 namespace kestedit {
 
-namespace {
-
-QDate toQt(Date date) {
-    return {static_cast<int>(date.year()), static_cast<int>(static_cast<unsigned>(date.month())),
-            static_cast<int>(static_cast<unsigned>(date.day()))};
-}
-
-Date fromQt(QDate date) {
-    return Date{std::chrono::year{date.year()}, std::chrono::month{static_cast<unsigned>(date.month())},
-                std::chrono::day{static_cast<unsigned>(date.day())}};
-}
-
-}  // namespace
-
-DateEdit::DateEdit(QWidget* parent) : Emptyable(parent) {
-    setDateRange(QDate(100, 1, 1), QDate(9999, 12, 31));
-    setCalendarPopup(true);
-    prepareCalendar();
-    connect(this, &QDateEdit::dateChanged, this, &DateEdit::chosen);
-}
-
-std::optional<Date> DateEdit::content() const {
-    return isEmpty() ? std::nullopt : std::optional{fromQt(date())};
-}
-
-void DateEdit::setContent(std::optional<Date> date) {
-    if (date) {
-        showMoment(toQt(*date).startOfDay());
-    } else {
-        showNothing();
-    }
+DateEdit::DateEdit(QWidget* parent) : MomentEdit(parent) {
+    setButtonSymbols(NoButtons);
 }
 
 void DateEdit::setCalendarTexts(const QString& today, const QString& clear) {
-    today_->setText(today);
-    today_->setHidden(today.isEmpty());
-    clear_->setText(clear);
-    clear_->setHidden(clear.isEmpty());
+    todayText_ = today;
+    clearText_ = clear;
 }
 
-void DateEdit::prepareCalendar() {
-    auto* calendar = new QCalendarWidget;
-    calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-    calendar->setFirstDayOfWeek(locale().firstDayOfWeek());
-    today_ = new QPushButton(calendar);
-    clear_ = new QPushButton(calendar);
-    auto* row = new QHBoxLayout;
-    row->setContentsMargins(4, 4, 4, 4);
-    row->addWidget(today_);
-    row->addStretch();
-    row->addWidget(clear_);
-    static_cast<QBoxLayout*>(calendar->layout())->addLayout(row);
+CalendarPopup& DateEdit::calendar() {
+    if (!calendar_) {
+        calendar_ = new CalendarPopup(todayText_, clearText_, this);
+        connect(calendar_, &CalendarPopup::chosen, this, &DateEdit::chosen);
+        connect(calendar_, &CalendarPopup::todayChosen, this, &DateEdit::todayChosen);
+        connect(calendar_, &CalendarPopup::cleared, this, &DateEdit::cleared);
+    }
+    return *calendar_;
+}
 
-    // A day clicked in the calendar fills an empty field even when it is the day behind the empty text.
-    connect(calendar, &QCalendarWidget::clicked, this, [this](QDate day) {
-        if (!isEmpty()) return;
-        showMoment(day.startOfDay());
-        announce();
-    });
-    connect(today_, &QPushButton::clicked, calendar, [this, calendar] {
-        calendar->window()->close();
-        fill();
-    });
-    connect(clear_, &QPushButton::clicked, calendar, [this, calendar] {
-        calendar->window()->close();
-        empty();
-    });
-    setCalendarWidget(calendar);
+void DateEdit::openCalendar() {
+    if (isReadOnly()) return;
+    setFocus();
+    emit confirmed();
+    calendar().openAt(*this, date_);
+}
+
+// ---- looks: the frame and the button of an editable list
+
+QStyleOptionComboBox DateEdit::frameOption() const {
+    QStyleOptionComboBox option;
+    option.initFrom(this);
+    option.editable = true;
+    option.frame = hasFrame();
+    option.subControls = QStyle::SC_ComboBoxFrame | QStyle::SC_ComboBoxEditField | QStyle::SC_ComboBoxArrow;
+    if (calendar_ && calendar_->isVisible()) option.state |= QStyle::State_On;
+    return option;
+}
+
+QSize DateEdit::sizeAround(const QSize& line) const {
+    const QStyleOptionComboBox option = frameOption();
+    return style()->sizeFromContents(QStyle::CT_ComboBox, &option, line, this);
+}
+
+void DateEdit::placeLine() {
+    const QStyleOptionComboBox option = frameOption();
+    lineEdit()->setGeometry(style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this));
+}
+
+void DateEdit::paintEvent(QPaintEvent*) {
+    QStylePainter(this).drawComplexControl(QStyle::CC_ComboBox, frameOption());
+}
+
+void DateEdit::resizeEvent(QResizeEvent* event) {
+    MomentEdit::resizeEvent(event);
+    placeLine();
+}
+
+void DateEdit::showEvent(QShowEvent* event) {
+    MomentEdit::showEvent(event);
+    placeLine();
+}
+
+void DateEdit::changeEvent(QEvent* event) {
+    MomentEdit::changeEvent(event);
+    placeLine();
+}
+
+// ---- the calendar's button and keys
+
+void DateEdit::mousePressEvent(QMouseEvent* event) {
+    const QStyleOptionComboBox option = frameOption();
+    const QRect arrow = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, this);
+    if (event->button() == Qt::LeftButton && arrow.contains(event->position().toPoint())) return openCalendar();
+    MomentEdit::mousePressEvent(event);
+}
+
+void DateEdit::keyPressEvent(QKeyEvent* event) {
+    const bool altDown = event->key() == Qt::Key_Down && event->modifiers() & Qt::AltModifier;
+    if (event->key() == Qt::Key_F4 || altDown) return openCalendar();
+    MomentEdit::keyPressEvent(event);
 }
 
 }  // namespace kestedit

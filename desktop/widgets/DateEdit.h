@@ -1,39 +1,54 @@
 // A date with its calendar, or nothing.
 #pragma once
 
-#include <QDateEdit>
+#include <QDate>
+#include <QStyleOptionComboBox>
 #include <optional>
 
-#include "desktop/widgets/Emptyable.h"
-#include "platform/DateTime.h"
-
-class QPushButton;
+#include "desktop/widgets/MomentEdit.h"
 
 namespace kestedit {
 
-class DateEdit : public Emptyable<QDateEdit> {
+class CalendarPopup;
+
+/// Its button, F4 and Alt+Down open the calendar.
+class DateEdit : public MomentEdit {
     Q_OBJECT
 
   public:
     explicit DateEdit(QWidget* parent = nullptr);
 
-    [[nodiscard]] std::optional<Date> content() const;
-    void setContent(std::optional<Date> date);
+    /// Where the calendar opens; nothing for the present month.
+    void setDate(std::optional<QDate> date) { date_ = date; }
     /// Captions of the calendar's own buttons.
     void setCalendarTexts(const QString& today, const QString& clear);
+    /// Made when it is first asked for.
+    [[nodiscard]] CalendarPopup& calendar();
 
   signals:
-    void chosen();
+    /// Chosen in the calendar; it opens behind `confirmed`.
+    void chosen(QDate date);
+    void todayChosen();
+    void cleared();
 
   protected:
-    void announce() override { emit chosen(); }
-    [[nodiscard]] QDateTime presentMoment() const override { return QDateTime::currentDateTime(); }
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    [[nodiscard]] QSize sizeAround(const QSize& line) const override;
 
   private:
-    void prepareCalendar();
+    [[nodiscard]] QStyleOptionComboBox frameOption() const;
+    void placeLine();
+    void openCalendar();
 
-    QPushButton* today_ = nullptr;  // children of the calendar
-    QPushButton* clear_ = nullptr;
+    std::optional<QDate> date_;
+    QString todayText_;
+    QString clearText_;
+    CalendarPopup* calendar_ = nullptr;  // a child
 };
 
 }  // namespace kestedit

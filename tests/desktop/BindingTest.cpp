@@ -45,13 +45,13 @@ QString seen(const Binding& binding) {
 }
 
 /// What the form has a user read there.
-QString said(const EditorControl& control, const DateFormat& dates) {
+QString said(const EditorControl& control, const Platform& platform) {
     using enum ControlKind;
     const ControlKind kind = control.Kind;
     if (kind == label || kind == command || kind == check || kind == option) return toQt(control.Caption);
     if (kind == number || kind == spin) return control.isEmpty() ? QString() : QString::number(control.number());
-    if (const auto date = control.date()) return toQt(dates.text(*date));
-    if (const auto time = control.time()) return toQt(timeText(*time));
+    if (const auto date = control.date()) return toQt(platform.dates.text(*date));
+    if (const auto time = control.time()) return toQt(platform.times.text(*time));
     return linesToQt(control.text());
 }
 
@@ -73,7 +73,7 @@ TEST_F(WindowTest, WidgetsFollowEveryRule) {
             EXPECT_EQ(box && box->checkState() == Qt::PartiallyChecked, control.State == 2);
             // A mnemonic that leads nowhere is not shown.
             const auto* label = qobject_cast<const QLabel*>(&widget);
-            const QString text = said(control, dates);
+            const QString text = said(control, platform);
             ASSERT_EQ(seen(*binding), label && !label->buddy() ? withoutMnemonic(text) : text);
         }
     };

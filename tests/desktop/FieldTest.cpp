@@ -1,6 +1,5 @@
 // Typing, stepping and choosing in fields.
 #include <QAbstractButton>
-#include <QCalendarWidget>
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QLabel>
@@ -9,11 +8,9 @@
 #include <QTimer>
 #include <set>
 
-#include "desktop/widgets/DateEdit.h"
 #include "desktop/widgets/NumberEdit.h"
 #include "desktop/widgets/PasswordEdit.h"
 #include "desktop/widgets/PathEdit.h"
-#include "desktop/widgets/TimeEdit.h"
 #include "editor/NumberRanges.h"
 #include "tests/desktop/WindowFixture.h"
 
@@ -189,35 +186,6 @@ TEST_F(Field, NumbersHaveTheirUnitBesideThem) {
         EXPECT_LE(label.x(), field.right() + 12) << unit;
         EXPECT_TRUE(field.intersects(label.geometry().translated(field.x() - label.x(), 0))) << "in one row: " << unit;
     }
-}
-
-TEST_F(Field, DatesFollowTheUsersFormatAndMayBeEmpty) {
-    QLocale::setDefault(QLocale("en_US"));  // whose week begins on Sunday, and whose times have no seconds
-    open();
-    press("optAge(4)");
-    auto& date = shownBy<DateEdit>("dxFileDate");
-    EXPECT_EQ(date.text(), "21.11.2026");
-    EXPECT_EQ(date.calendarWidget()->firstDayOfWeek(), Qt::Sunday);
-    QStringList captions;
-    for (const auto* button : date.calendarWidget()->findChildren<QAbstractButton*>())
-        captions += button->text();
-    EXPECT_TRUE(captions.contains("Heute") && captions.contains("Leeren"));
-    QTest::keyClicks(&focus("dxFileDate"), "28022027");
-    EXPECT_EQ(dates.text(*at("dxFileDate").date()), "28.02.2027");
-    date.selectAll();
-    QTest::keyClick(&date, Qt::Key_Delete);
-    EXPECT_TRUE(at("dxFileDate").isEmpty());
-    EXPECT_EQ(date.text(), "");
-    QTest::keyClick(&date, Qt::Key_Up);
-    EXPECT_TRUE(at("dxFileDate").date().has_value());
-    EXPECT_NE(date.text(), "");
-
-    press("optIntervall(1)");
-    EXPECT_EQ(shownBy<TimeEdit>("dxDateTime").text(), "2:05:00 PM");
-    QTest::keyClick(&focus("dxDateTime"), Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClicks(&focusOf("dxDateTime"), "113015");
-    EXPECT_EQ(timeText(*at("dxDateTime").time()), "23:30:15");
-    QLocale::setDefault(QLocale::system());
 }
 
 TEST_F(Field, ButtonsInsideShowAPasswordAndFillAPathThatCannotBeTyped) {
