@@ -27,7 +27,7 @@ EditorSession::EditorSession(EditorOptions options, Prompts& prompts)
       dates_(options_.dateFormat ? *options_.dateFormat : DateFormat::ofUserLocale()),
       settings_(userFolders().config / "user.ini"),
       platform_{ini_, files_, *clock_, dates_, prompts, settings_, TimeFormat::ofUserLocale()} {
-    if (options_.jobFile) static_cast<void>(ini_.open(*options_.jobFile));
+    if (options_.jobFile) static_cast<void>(ini_.open(*options_.jobFile, IniStore::Page::recognised));
 }
 
 void EditorSession::show(ModalRun& driver) {

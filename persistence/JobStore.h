@@ -20,6 +20,11 @@ class KESTEDIT_EXPORT JobRecord {
     /// The stored text; nothing when the file lacks the key.
     [[nodiscard]] std::optional<std::string> field(std::string_view key) const;
 
+    [[nodiscard]] bool isUtf8() const { return snapshot_.codePage().number() == CodePage::utf8; }
+
+    /// The number of the first line, from 1, that cannot be converted to UTF-8.
+    [[nodiscard]] std::optional<std::size_t> lineOfNoCharacters() const { return snapshot_.lineOfNoCharacters(); }
+
   private:
     IniStore::Snapshot snapshot_;
 };
@@ -35,6 +40,11 @@ class KESTEDIT_EXPORT JobStore {
   public:
     /// Must outlive the store.
     explicit JobStore(IniStore& ini) : ini_(ini) {}
+
+    /// From now on every file is written as UTF-8, the lines that it keeps converted. Without this, it is written in
+    /// the page that it was read in, and a new one in that of `ini`.
+    void writeAsUtf8() { utf8_ = true; }
+    [[nodiscard]] bool writesAsUtf8() const { return utf8_; }
 
     /// Nothing when the file cannot be read or has no section "Job".
     [[nodiscard]] std::optional<JobRecord> read(const std::filesystem::path& file) const;
@@ -53,7 +63,10 @@ class KESTEDIT_EXPORT JobStore {
                 std::span<const JobLine> lines) const;
 
   private:
+    [[nodiscard]] StagedFile stage(const std::filesystem::path& file, std::span<const JobLine> lines, Write mode) const;
+
     IniStore& ini_;
+    bool utf8_ = false;
 };
 
 }  // namespace kestedit

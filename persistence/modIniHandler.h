@@ -23,6 +23,7 @@ class KESTEDIT_EXPORT modIniHandler {
                                                  std::string_view fallback, std::int16_t size) const;
     void WriteProgramSetting(std::string_view section, std::string_view key, std::string_view value) const;
 
+    /// For job files, whose page is recognised.
     [[nodiscard]] std::string ReadIniFileValue(std::string_view section, std::string_view key,
                                                std::string_view fallback, const std::filesystem::path& file,
                                                std::int16_t size) const;

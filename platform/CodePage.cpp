@@ -187,6 +187,17 @@ std::optional<std::string_view> CodePage::encode(std::string_view text, std::str
     return buffer;
 }
 
+CodePage CodePage::recognise(std::span<const std::string_view> pieces) const {
+    const bool tells = !std::ranges::all_of(pieces, isAscii) && std::ranges::all_of(pieces, isUtf8);
+    return tells ? CodePage(utf8) : *this;
+}
+
+bool CodePage::hasCharactersFor(std::string_view bytes) const {
+    if (number_ == utf8) return isUtf8(bytes);
+    return std::ranges::none_of(
+        bytes, [this](char byte) { return isStrayByte(tables_->characters[static_cast<unsigned char>(byte)]); });
+}
+
 char CodePage::foldedByte(char byte) const {
     return tables_->folded[static_cast<unsigned char>(byte)];
 }

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -34,6 +35,13 @@ class KESTEDIT_EXPORT CodePage {
 
     /// The same without a copy where the bytes do not differ: `text` itself, or else `buffer`, which then holds them.
     [[nodiscard]] std::optional<std::string_view> encode(std::string_view text, std::string& buffer) const;
+
+    /// The page of a file that is in this one unless its bytes tell of UTF-8: they do when they are that and not plain
+    /// ASCII. A byte order mark is such a character. The pieces stand one behind the other, each of whole characters.
+    [[nodiscard]] CodePage recognise(std::span<const std::string_view> pieces) const;
+
+    /// Whether every byte belongs to a character of this page.
+    [[nodiscard]] bool hasCharactersFor(std::string_view bytes) const;
 
     /// The lower-case form of an encoded name: two names are the same when these forms are equal.
     [[nodiscard]] std::string fold(std::string_view bytes) const;

@@ -61,6 +61,14 @@ void requireRegularFile(const struct stat& status, const char* operation, const 
 
 FileContent::FileContent(const struct stat& status) : identity_(status), settled_(isLongAgo(status.st_ctim)) {}
 
+FileContent FileContent::withBytes(std::string_view bytes) const {
+    FileContent content(identity_, settled_);
+    content.bytes_ = std::make_unique_for_overwrite<char[]>(bytes.size());
+    content.size_ = bytes.size();
+    std::ranges::copy(bytes, content.bytes_.get());
+    return content;
+}
+
 FileContent FileContent::read(const std::filesystem::path& path) {
     const FileDescriptor file(openFile(path, O_RDONLY | O_NONBLOCK));
     if (!file.isOpen()) throw systemFailure("open", path);

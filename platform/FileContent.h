@@ -31,6 +31,9 @@ class FileContent {
     /// Never waits: what is no regular file (a folder, a FIFO, a device) is refused at once. Throws std::system_error.
     [[nodiscard]] static FileContent read(const std::filesystem::path& path);
 
+    /// Other bytes for the same file.
+    [[nodiscard]] FileContent withBytes(std::string_view bytes) const;
+
     [[nodiscard]] std::string_view bytes() const { return {bytes_.get(), size_}; }
     [[nodiscard]] const FileIdentity& identity() const { return identity_; }
 
@@ -40,6 +43,7 @@ class FileContent {
 
   private:
     explicit FileContent(const struct stat& status);
+    FileContent(const FileIdentity& identity, bool settled) : identity_(identity), settled_(settled) {}
 
     std::unique_ptr<char[]> bytes_;
     std::size_t size_ = 0;

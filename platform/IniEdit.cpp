@@ -23,9 +23,10 @@ std::string_view encoded(const CodePage& page, std::string_view text, std::strin
                          std::string_view key) {
     const std::optional<std::string_view> bytes = page.encode(text, buffer);
     if (!bytes) {
-        throw UnwritableText(inMessage(section, key) + ": code page " + std::to_string(page.number()) +
-                                 " cannot hold \"" + std::string(text) + '"',
-                             std::errc::illegal_byte_sequence);
+        // The value is not told: it may be a password.
+        throw UnwritableText(
+            inMessage(section, key) + ": code page " + std::to_string(page.number()) + " lacks a character of the text",
+            std::errc::illegal_byte_sequence);
     }
     return *bytes;
 }
@@ -106,6 +107,12 @@ IniEdit::Stretch IniEdit::rememberValue(std::string_view value) {
 
 std::string_view IniEdit::text(Stretch stretch) const {
     return std::string_view(texts_).substr(stretch.begin, stretch.length);
+}
+
+bool IniEdit::readsBack(const CodePage& told) const {
+    const CodePage& page = base_->codePage();
+    const CodePage recognised = told.recognise(pieces());
+    return recognised.number() == page.number() || recognised.decode(texts_) == page.decode(texts_);
 }
 
 std::vector<IniEdit::Replacement> IniEdit::replacementsInOrder() const {

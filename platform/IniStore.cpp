@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "platform/IniEdit.h"
+#include "platform/Posix.h"
 #include "platform/RecentFiles.h"
 
 namespace kestedit {
@@ -39,6 +40,8 @@ struct IniStore::Impl {
     CodePage page;
     RecentFiles files;
     std::error_code lastError;
+
+    SharedText baseOf(const fs::path& file, bool startEmpty, Page reading);
 };
 
 struct IniStore::Snapshot::Impl {
@@ -48,6 +51,7 @@ struct IniStore::Snapshot::Impl {
 struct IniStore::Edit::Impl {
     fs::path target;
     IniEdit edit;
+    std::optional<CodePage> told;  // by which the page is recognised when the file is read again
 };
 
 IniStore::IniStore(CodePage page) : impl_(std::make_unique<Impl>(page)) {}
@@ -62,18 +66,17 @@ void IniStore::setCodePage(const fs::path& file, CodePage page) {
 }
 
 std::string IniStore::read(const fs::path& file, std::string_view section, std::string_view key,
-                           std::string_view fallback, std::size_t size) {
+                           std::string_view fallback, std::size_t size, Page page) {
     if (size == 0) return {};
-    const CodePage& page = impl_->page;
     try {
-        const SharedText text = impl_->files.get(file);
+        const SharedText text = impl_->files.get(file, page == Page::recognised);
         const CodePage& own = text->codePage();
         if (const auto value = findValue(*text, section, key)) return own.decode(own.cut(*value, size - 1));
     } catch (const std::system_error&) {
         // A file that cannot be read has no keys.
     }
     fallback = fallback.substr(0, fallback.find_last_not_of(' ') + 1);
-    return std::string(page.cutText(fallback, size - 1));
+    return std::string(impl_->page.cutText(fallback, size - 1));
 }
 
 IniStore::ReadScope IniStore::readScope() {
@@ -89,10 +92,10 @@ IniStore::ReadScope::~ReadScope() {
 }
 
 std::error_code IniStore::write(const fs::path& file, std::string_view section, std::string_view key,
-                                std::string_view value) {
+                                std::string_view value, Page page) {
     std::error_code& error = impl_->lastError;
     try {
-        Edit change = edit(file, false);
+        Edit change = edit(file, false, page);
         change.set(section, key, value);
         change.stage(StagedFile::Permissions::keep).commit();
         error.clear();
@@ -111,25 +114,53 @@ std::error_code IniStore::lastError() const {
     return impl_->lastError;
 }
 
-IniStore::Snapshot IniStore::open(const fs::path& file) {
-    return Snapshot(std::make_unique<Snapshot::Impl>(Snapshot::Impl{impl_->files.get(file)}));
+IniStore::Snapshot IniStore::open(const fs::path& file, Page page) {
+    return Snapshot(std::make_unique<Snapshot::Impl>(Snapshot::Impl{impl_->files.get(file, page == Page::recognised)}));
 }
 
-IniStore::Edit IniStore::edit(const fs::path& file, bool startEmpty) {
-    SharedText base;
+/// The file that an edit begins with.
+SharedText IniStore::Impl::baseOf(const fs::path& file, bool startEmpty, Page reading) {
     try {
-        if (!startEmpty) base = impl_->files.getForChange(file);
+        if (!startEmpty) return files.getForChange(file, reading == Page::recognised);
     } catch (const std::system_error& failure) {
         if (failure.code() != std::errc::no_such_file_or_directory) throw;
     }
-    if (!base) base = std::make_shared<const IniText>(impl_->files.pageOf(file));
-    return Edit(std::make_unique<Edit::Impl>(Edit::Impl{file, IniEdit(std::move(base))}));
+    return std::make_shared<const IniText>(files.pageOf(file));
+}
+
+IniStore::Edit IniStore::edit(const fs::path& file, bool startEmpty, Page page) {
+    std::optional<CodePage> told;
+    if (page == Page::recognised) told = impl_->files.pageOf(file);
+    return Edit(std::make_unique<Edit::Impl>(Edit::Impl{file, IniEdit(impl_->baseOf(file, startEmpty, page)), told}));
+}
+
+IniStore::Edit IniStore::editAsUtf8(const fs::path& file, bool startEmpty) {
+    SharedText base = impl_->baseOf(file, startEmpty, Page::recognised);
+    if (base->codePage().number() != CodePage::utf8) {
+        std::optional<IniText> converted = base->inUtf8();
+        if (!converted) {
+            throw systemFailure(
+                "convert line " + std::to_string(base->lineOfNoCharacters().value_or(0)) + " to UTF-8 in", file,
+                std::make_error_code(std::errc::illegal_byte_sequence));
+        }
+        base = std::make_shared<const IniText>(std::move(*converted));
+    }
+    const CodePage& told = impl_->files.pageOf(file);
+    return Edit(std::make_unique<Edit::Impl>(Edit::Impl{file, IniEdit(std::move(base)), told}));
 }
 
 IniStore::Snapshot::Snapshot(std::unique_ptr<Impl> impl) : impl_(std::move(impl)) {}
 IniStore::Snapshot::Snapshot(Snapshot&&) noexcept = default;
 IniStore::Snapshot& IniStore::Snapshot::operator=(Snapshot&&) noexcept = default;
 IniStore::Snapshot::~Snapshot() = default;
+
+const CodePage& IniStore::Snapshot::codePage() const {
+    return impl_->text->codePage();
+}
+
+std::optional<std::size_t> IniStore::Snapshot::lineOfNoCharacters() const {
+    return impl_->text->lineOfNoCharacters();
+}
 
 bool IniStore::Snapshot::hasSection(std::string_view section) const {
     return findSection(*impl_->text, section).has_value();
@@ -151,6 +182,10 @@ void IniStore::Edit::set(std::string_view section, std::string_view key, std::st
 }
 
 StagedFile IniStore::Edit::stage(StagedFile::Permissions permissions) const {
+    if (impl_->told && !impl_->edit.readsBack(*impl_->told)) {
+        throw systemFailure("keep all characters in", impl_->target,
+                            std::make_error_code(std::errc::illegal_byte_sequence));
+    }
     return {impl_->target, std::span<const std::string_view>(impl_->edit.pieces()), permissions};
 }
 

@@ -28,6 +28,12 @@ class KESTEDIT_EXPORT IniStore {
     IniStore(const IniStore&) = delete;
     IniStore& operator=(const IniStore&) = delete;
 
+    /// How the page of one file is found.
+    enum class Page {
+        told,       ///< by what the store was told
+        recognised  ///< the same, but UTF-8 where the file's bytes tell of it: CodePage::recognise
+    };
+
     /// The page of every file that has none of its own.
     [[nodiscard]] const CodePage& codePage() const;
 
@@ -38,12 +44,12 @@ class KESTEDIT_EXPORT IniStore {
     /// The value of `key`, cut to `size - 1` bytes of the code page (never inside a character); `fallback`, cut the
     /// same way and without the blanks at its end, when file, section or key is missing or the file cannot be read.
     [[nodiscard]] std::string read(const std::filesystem::path& file, std::string_view section, std::string_view key,
-                                   std::string_view fallback, std::size_t size);
+                                   std::string_view fallback, std::size_t size, Page page = Page::told);
 
     /// Writes one key and replaces the file as a whole; creates file and section when needed. An empty value stays as a
     /// key with an empty value. A failure changes nothing on disk; it is returned and recorded, never thrown.
     std::error_code write(const std::filesystem::path& file, std::string_view section, std::string_view key,
-                          std::string_view value);
+                          std::string_view value, Page page = Page::told);
 
     /// What the most recent write came to.
     [[nodiscard]] std::error_code lastError() const;
@@ -58,11 +64,15 @@ class KESTEDIT_EXPORT IniStore {
 
     /// The file as it is now, for many reads with one look at the disk. Throws std::system_error when it cannot be
     /// read.
-    [[nodiscard]] Snapshot open(const std::filesystem::path& file);
+    [[nodiscard]] Snapshot open(const std::filesystem::path& file, Page page = Page::told);
 
     /// Collects the keys of one save. `startEmpty` forgets what the file holds; otherwise its lines are kept, and a
     /// missing file counts as empty. Throws std::system_error when an existing file cannot be read.
-    [[nodiscard]] Edit edit(const std::filesystem::path& file, bool startEmpty);
+    [[nodiscard]] Edit edit(const std::filesystem::path& file, bool startEmpty, Page page = Page::told);
+
+    /// The same for a file that is to be recognised as UTF-8 from now on: the lines that it keeps are converted. Throws
+    /// std::system_error, too, when one of them holds bytes that are no characters of the page they stand in.
+    [[nodiscard]] Edit editAsUtf8(const std::filesystem::path& file, bool startEmpty);
 
   private:
     struct Impl;
@@ -87,6 +97,11 @@ class KESTEDIT_EXPORT IniStore::Snapshot {
     Snapshot& operator=(Snapshot&&) noexcept;
     ~Snapshot();
 
+    [[nodiscard]] const CodePage& codePage() const;
+
+    /// The number of the first line, from 1, with bytes that are no characters of the page: editAsUtf8 refuses those.
+    [[nodiscard]] std::optional<std::size_t> lineOfNoCharacters() const;
+
     [[nodiscard]] bool hasSection(std::string_view section) const;
 
     /// The whole value; nothing when section or key is missing.
@@ -110,7 +125,8 @@ class KESTEDIT_EXPORT IniStore::Edit {
     /// cannot hold a text.
     void set(std::string_view section, std::string_view key, std::string_view value);
 
-    /// Writes and syncs the whole content to a temporary file beside the target. Throws std::system_error.
+    /// Writes and syncs the whole content to a temporary file beside the target. Throws std::system_error, also when a
+    /// file whose page is recognised would be taken for one of another page and the texts that were set for others.
     [[nodiscard]] StagedFile stage(StagedFile::Permissions permissions) const;
 
   private:

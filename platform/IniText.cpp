@@ -56,6 +56,27 @@ IniText::IniText(CodePage page, FileContent content) : page_(page), content_(std
     indexSections();
 }
 
+std::optional<IniText> IniText::inUtf8() const {
+    const CodePage utf8(CodePage::utf8);
+    if (!content_) return IniText(utf8);
+    const std::string_view mark = bytes().substr(0, begin_);
+    const std::string_view text = bytes().substr(begin_);
+    if (!page_.hasCharactersFor(text)) return std::nullopt;
+    const bool already = page_.number() == CodePage::utf8;
+    const std::string converted = already ? std::string(text) : page_.decode(text);
+    return IniText(utf8, content_->withBytes(std::string(mark) + converted));
+}
+
+std::optional<std::size_t> IniText::lineOfNoCharacters() const {
+    if (page_.hasCharactersFor(bytes().substr(begin_))) return std::nullopt;
+    std::size_t number = 1;
+    for (std::size_t begin = begin_;; ++number) {
+        const std::size_t end = lineEndFrom(begin);
+        if (!page_.hasCharactersFor(bytes().substr(begin, end - begin))) return number;
+        begin = end;
+    }
+}
+
 /// Looks for brackets instead of lines: most lines of a large file are keys, and a section that nobody asks for is
 /// never taken apart.
 void IniText::indexSections() {

@@ -64,6 +64,12 @@ class IniText {
     [[nodiscard]] std::string_view bytes() const { return content_ ? content_->bytes() : std::string_view{}; }
     [[nodiscard]] const std::optional<FileContent>& content() const { return content_; }
 
+    /// The same file in UTF-8, a byte order mark kept; nothing when it holds bytes that are no characters of its page.
+    [[nodiscard]] std::optional<IniText> inUtf8() const;
+
+    /// The number of the first line with such bytes, from 1.
+    [[nodiscard]] std::optional<std::size_t> lineOfNoCharacters() const;
+
     /// The number of the first section of this name, below sectionCount().
     [[nodiscard]] std::optional<std::size_t> findSection(std::string_view name) const;
     [[nodiscard]] std::size_t sectionCount() const { return sections_.size(); }

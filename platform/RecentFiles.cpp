@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <string_view>
 #include <sys/stat.h>
+#include <utility>
 
 namespace kestedit {
 
@@ -38,8 +40,9 @@ void RecentFiles::leaveScope() {
     --depth_;
 }
 
-SharedText RecentFiles::get(const fs::path& file, bool trustScope) {
-    const auto known = std::ranges::find(files_, file.native(), &Entry::path);
+SharedText RecentFiles::get(const fs::path& file, bool recognise, bool trustScope) {
+    const auto known = std::ranges::find_if(
+        files_, [&](const Entry& entry) { return entry.path == file.native() && entry.recognise == recognise; });
     if (known != files_.end()) {
         if ((trustScope && isTrusted(*known)) || isCurrent(known->path, *known->text->content())) {
             known->scope = scope_;
@@ -48,8 +51,11 @@ SharedText RecentFiles::get(const fs::path& file, bool trustScope) {
         }
         files_.erase(known);
     }
-    SharedText text = std::make_shared<const IniText>(pageOf(file), FileContent::read(file));
-    files_.insert(files_.begin(), {file.native(), text, scope_});
+    FileContent content = FileContent::read(file);
+    const std::string_view bytes = content.bytes();
+    const CodePage page = recognise ? pageOf(file).recognise({&bytes, 1}) : pageOf(file);
+    SharedText text = std::make_shared<const IniText>(page, std::move(content));
+    files_.insert(files_.begin(), {file.native(), recognise, text, scope_});
     forgetOldest();
     return text;
 }

@@ -21,12 +21,12 @@ class RecentFiles {
     /// `page` is that of every file that has none of its own.
     explicit RecentFiles(CodePage page) : page_(page) {}
 
-    /// The file for reading: as it is now, or as it was when the running scope first looked at it. Throws
-    /// std::system_error.
-    SharedText get(const std::filesystem::path& file) { return get(file, true); }
+    /// The file for reading: as it is now, or as it was when the running scope first looked at it. Its page is the one
+    /// told, or with `recognise` what CodePage::recognise makes of it. Throws std::system_error.
+    SharedText get(const std::filesystem::path& file, bool recognise) { return get(file, recognise, true); }
 
     /// The file for changing, as it is now whatever a scope has seen. Throws std::system_error.
-    SharedText getForChange(const std::filesystem::path& file) { return get(file, false); }
+    SharedText getForChange(const std::filesystem::path& file, bool recognise) { return get(file, recognise, false); }
 
     void forget(const std::filesystem::path& file);
 
@@ -40,11 +40,12 @@ class RecentFiles {
   private:
     struct Entry {
         std::string path;
+        bool recognise;  // how the page of the text was found
         SharedText text;
         std::uint64_t scope = 0;  // in which the disk was last looked at
     };
 
-    SharedText get(const std::filesystem::path& file, bool trustScope);
+    SharedText get(const std::filesystem::path& file, bool recognise, bool trustScope);
     [[nodiscard]] bool isTrusted(const Entry& entry) const;
     void forgetOldest();
 

@@ -3,6 +3,7 @@
 #include <clocale>
 #include <cstddef>
 #include <cwctype>
+#include <utility>
 
 namespace kestedit {
 
@@ -59,6 +60,14 @@ Character takeCharacter(std::string_view& rest) {
     return character;
 }
 
+bool isUtf8(std::string_view text) {
+    while (!text.empty()) {
+        const auto [codePoint, sequence] = takeCharacter(text);
+        if (codePoint == replacement && sequence.size() == 1) return false;
+    }
+    return true;
+}
+
 void appendCharacter(std::string& text, char32_t codePoint) {
     const auto append = [&text](char32_t byte) { text.push_back(static_cast<char>(static_cast<unsigned char>(byte))); };
     const auto appendTail = [&append](char32_t bits) { append(0x80U | (bits & 0x3FU)); };
@@ -91,6 +100,16 @@ std::size_t characterCount(std::string_view text) {
     for (; !text.empty(); ++count)
         (void)takeCharacter(text);
     return count;
+}
+
+bool hasShape(char32_t codePoint) {
+    constexpr std::pair<char32_t, char32_t> invisible[] = {{0x200B, 0x200F},  {0x2028, 0x202E}, {0x2060, 0x206F},
+                                                           {0xFE00, 0xFE0F},  {0xFEFF, 0xFEFF}, {0xFFF9, 0xFFFB},
+                                                           {0xE0000, 0xE0FFF}};
+    for (const auto& [first, last] : invisible)
+        if (codePoint >= first && codePoint <= last) return false;
+    const locale_t locale = unicodeLocale();
+    return locale != locale_t{} && iswgraph_l(static_cast<wint_t>(codePoint), locale) != 0;
 }
 
 std::string_view trimBlanks(std::string_view text) {

@@ -17,6 +17,9 @@ struct Character {
 /// comes back alone, as U+FFFD.
 [[nodiscard]] Character takeCharacter(std::string_view& rest);
 
+/// Whether `text` is made of whole characters only.
+[[nodiscard]] bool isUtf8(std::string_view text);
+
 /// `codePoint` as UTF-8 behind `text`.
 void appendCharacter(std::string& text, char32_t codePoint);
 
@@ -25,6 +28,9 @@ void appendCharacter(std::string& text, char32_t codePoint);
 
 /// How many characters `text` has; a byte that is not UTF-8 counts as one.
 [[nodiscard]] std::size_t characterCount(std::string_view text);
+
+/// Whether a reader would see the character: it is no control, mark of direction or other invisible one.
+[[nodiscard]] bool hasShape(char32_t codePoint);
 
 /// `text` without the blanks (U+0020) at both ends.
 [[nodiscard]] std::string_view trimBlanks(std::string_view text);

@@ -1,5 +1,5 @@
 // Up to three keys set in any file: they read as they were written, every other key as before, and each of them alone
-// changes no byte but its own.
+// changes no byte but its own. Converted to UTF-8, the file has the same keys and texts.
 #include <algorithm>
 #include <fuzzer/FuzzedDataProvider.h>
 #include <map>
@@ -72,6 +72,29 @@ std::shared_ptr<const IniText> textOf(const CodePage& page, const std::string& b
     return text;
 }
 
+/// Every key and text of the file, decoded and folded as UTF-8 compares them.
+IniKeys asUtf8(const CodePage& page, const IniKeys& keys) {
+    const CodePage utf8(CodePage::utf8);
+    IniKeys decoded;
+    for (const auto& [name, value] : keys)
+        decoded[{utf8.fold(page.decode(name.first)), utf8.fold(page.decode(name.second))}] = page.decode(value);
+    return decoded;
+}
+
+void requireSameAsUtf8(const IniText& text) {
+    const CodePage& page = text.codePage();
+    const std::optional<IniText> converted = text.inUtf8();
+    require(converted.has_value() != text.lineOfNoCharacters().has_value(),
+            "a line is named when it has no characters");
+    if (!converted || page.number() == CodePage::utf8) return;
+    const std::string bytes(converted->bytes());
+    require(readKeys(converted->codePage(), bytes) == asUtf8(page, readKeys(page, std::string(text.bytes()))),
+            "a converted file has the same keys and texts");
+    const std::string_view whole = bytes;
+    const bool recognised = page.recognise({&whole, 1}).number() == CodePage::utf8;
+    require(recognised || page.decode(bytes) == bytes, "a converted file reads the same whoever guesses its page");
+}
+
 /// A file that a key was set in holds the bytes of before, but for those at the key's place.
 void requireOtherBytes(const std::string& before, const std::string& after, std::size_t replaced) {
     const auto head = std::ranges::mismatch(before, after).in1 - before.begin();
@@ -90,6 +113,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         std::ranges::generate(texts, [&] { return input.ConsumeRandomLengthString(30); });
     const std::string before = input.ConsumeRemainingBytesAsString();
     const auto base = textOf(page, before);
+    requireSameAsUtf8(*base);
     IniEdit all(base);
     IniKeys keys = readKeys(page, before);
     for (const auto& [section, key, value] : sets) {

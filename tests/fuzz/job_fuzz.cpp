@@ -1,4 +1,5 @@
-// Any file opened as a job: the form loads, and what it saves comes back from the file unchanged.
+// Any file opened as a job: the form loads, and what it saves comes back from the file unchanged, in its page and as
+// UTF-8.
 #include "editor/frmEdit.h"
 #include "persistence/modSaveValues.h"
 #include "tests/fuzz/Fuzzing.h"
@@ -20,7 +21,7 @@ constexpr LocalTime noon{Date{std::chrono::year{2026}, std::chrono::month{11}, s
                          std::chrono::hours{12}};
 
 /// The job that the form saves right after it has loaded `bytes`.
-std::string savedAfterLoading(const std::string& bytes) {
+std::string savedAfterLoading(const std::string& bytes, bool asUtf8 = false) {
     static LocalFileSystem files;
     static const DateFormat dates("dd.MM.yyyy");
     static NoUser user;
@@ -37,9 +38,14 @@ std::string savedAfterLoading(const std::string& bytes) {
     frmEdit form(values, platform);
     form.Load();
 
-    IniEdit job(std::make_shared<const IniText>(CodePage{}, FileContent::read(values.JobFile)));
+    FileContent content = FileContent::read(values.JobFile);
+    const std::string_view whole = content.bytes();
+    IniText file(CodePage{}.recognise({&whole, 1}), std::move(content));
+    if (std::optional<IniText> converted = asUtf8 ? file.inUtf8() : std::nullopt) file = std::move(*converted);
+    IniEdit job(std::make_shared<const IniText>(std::move(file)));
     for (const JobLine& line : SaveValues(form, dates, noon))
         job.set(line.section, line.key, line.value);
+    if (!job.readsBack(CodePage{})) return bytes;  // a save would refuse it
     return test::bytesOf(job);
 }
 
@@ -49,5 +55,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     // Loading fills dates that are empty, so it takes one round until a job has settled.
     const std::string settled = savedAfterLoading(savedAfterLoading({reinterpret_cast<const char*>(data), size}));
     require(savedAfterLoading(settled) == settled, "a saved job comes back unchanged");
+    const std::string converted = savedAfterLoading(settled, true);
+    require(savedAfterLoading(converted) == converted, "a job that became UTF-8 stays so");
     return 0;
 }

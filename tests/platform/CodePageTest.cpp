@@ -51,6 +51,19 @@ TEST(CodePage, sameNamesShareAHashWhateverTheirCase) {
     EXPECT_FALSE(utf8.isSameName("\xC4", "\xE4")) << "no characters";
 }
 
+TEST(CodePage, isRecognisedAsUtf8ByWholeCharactersBeyondAscii) {
+    const std::tuple<std::string_view, int> files[] = {
+        {"", 1252},         {"plain", 1252},       {"\xE4", 1252},         {"\u00E4 \xE4", 1252},
+        {"\u00E4", 65001},  {"\uFEFF", 65001},     {"\uFEFF\xE4", 1252},   {"a\u0416\U0001F600", 65001},
+        {"\xC3", 1252},     {"\xE2\x82", 1252},    {"\xED\xA0\x80", 1252}, {"\xC0\xAF", 1252},
+        {"\xF5\xBF", 1252}, {"\U0010FE80", 65001}, {"\xFF\xFE[\0", 1252},
+    };
+    for (const auto& [bytes, number] : files) {
+        EXPECT_EQ(CodePage().recognise({&bytes, 1}).number(), number) << bytes;
+        EXPECT_EQ(CodePage(CodePage::utf8).recognise({&bytes, 1}).number(), CodePage::utf8) << bytes;
+    }
+}
+
 TEST(CodePage, refusesPagesThatAreNotOfOneByteEach) {
     for (const int number : {932, -1, 500})  // two bytes for some, unknown, other bytes than ASCII for "[" and "="
         EXPECT_THROW(CodePage{number}, std::invalid_argument) << number;

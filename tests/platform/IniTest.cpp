@@ -178,6 +178,46 @@ TEST_F(IniWrite, textsAreWrittenInTheCodePage) {
     EXPECT_EQ(written("[S]\nk=1\n", "k", "\U0010FE81"), "[S]\nk=\x81\n") << "an undefined byte goes back as it came";
 }
 
+TEST_F(IniWrite, aPageIsRecognisedOnlyWhenThatIsAskedFor) {
+    using enum IniStore::Page;
+    const auto file = folder_.file("page.ini", "[S]\nk=\u00E4\n");
+    EXPECT_EQ(store_.read(file, "S", "k", "", 10), "\u00C3\u00A4");
+    EXPECT_EQ(store_.read(file, "S", "k", "", 10, recognised), "\u00E4");
+    EXPECT_EQ(store_.open(file).value("S", "k"), "\u00C3\u00A4");
+    ASSERT_FALSE(store_.write(file, "S", "l", "\u0416\u00FC", recognised));
+    EXPECT_EQ(bytesOf(file), "[S]\nk=\u00E4\nl=\u0416\u00FC\n");
+    EXPECT_TRUE(store_.write(file, "S", "k", "\u0416"));
+
+    folder_.file("page.ini", "[S]\nk=\xFC\n");
+    EXPECT_TRUE(store_.write(file, "S", "l", "\u0416", recognised)) << "a page does not change by itself";
+    EXPECT_EQ(store_.write(file, "S", "k", "\u00C3\u00A4", recognised), std::errc::illegal_byte_sequence)
+        << "it would be recognised as another";
+    EXPECT_EQ(bytesOf(file), "[S]\nk=\xFC\n");
+    ASSERT_FALSE(store_.write(file, "S", "l", "\u00C3\u00A4", recognised));
+    EXPECT_EQ(store_.read(file, "S", "l", "", 10, recognised), "\u00C3\u00A4");
+    EXPECT_FALSE(store_.write(file, "S", "k", "\u00C3\u00A4")) << "whoever is told the page needs no guess";
+}
+
+TEST_F(IniWrite, aFileBecomesUtf8WithAllItsLinesOrNotAtAll) {
+    const auto becomes = [&](std::string_view before, bool startEmpty = false) {
+        const auto file = folder_.file("utf8.ini", before);
+        auto edit = store_.editAsUtf8(file, startEmpty);
+        edit.set("\u00C4", "k", "\u0416");
+        edit.stage(StagedFile::Permissions::keep).commit();
+        return bytesOf(file);
+    };
+    EXPECT_EQ(becomes(";\x80\n[\xE4]\nK = x\n\xFC"), ";\u20AC\n[\u00E4]\nK = \u0416\n\u00FC");
+    EXPECT_EQ(becomes("\uFEFF;\xE4\r\n"), "\uFEFF;\u00E4\r\n[\u00C4]\r\nk=\u0416\r\n");
+    EXPECT_EQ(becomes("; \u00E4\n"), "; \u00E4\n[\u00C4]\nk=\u0416\n") << "as it is already";
+    EXPECT_EQ(becomes("\x81", true), "[\u00C4]\r\nk=\u0416\r\n");
+    EXPECT_THROW(becomes("a\n;\x81"), std::system_error);
+    EXPECT_EQ(bytesOf(folder_.path() / "utf8.ini"), "a\n;\x81");
+    auto edit = store_.editAsUtf8(folder_.path() / "new.ini", false);
+    edit.set("S", "k", "\u0416\U0010FE81");
+    EXPECT_THROW(static_cast<void>(edit.stage(StagedFile::Permissions::keep)), std::system_error)
+        << "a byte without a character would hide the page";
+}
+
 TEST_F(IniWrite, oneEditKeepsTheFirstSpellingAndTheLastValue) {
     const auto file = folder_.file("edit.ini", "[A]\na=1\n\n[B]\nx=");
     auto edit = store_.edit(file, false);
