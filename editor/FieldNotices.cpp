@@ -85,10 +85,15 @@ Noticed jobName(const FormModel& form) {
 
 Noticed notes(const FormModel& form) {
     if (form.dxComment.Unread) return Notice{TextId::notesCut};
-    const std::size_t size = characterCount(storedComment(form));
+    const std::string stored = storedComment(form);
+    const bool utf8 = form.StoredAsUtf8;
+    const std::size_t size = utf8 ? stored.size() : characterCount(stored);
     if (size == 0) return std::nullopt;
-    if (size > mostShownOfComment) return Notice{TextId::notesTooLong, {std::to_string(size - mostShownOfComment)}};
-    return Notice{TextId::notesRoom, {std::to_string(mostShownOfComment - size)}};
+    if (size > mostShownOfComment) {
+        return Notice{utf8 ? TextId::notesTooLongUtf8 : TextId::notesTooLong,
+                      {std::to_string(size - mostShownOfComment)}};
+    }
+    return Notice{utf8 ? TextId::notesRoomUtf8 : TextId::notesRoom, {std::to_string(mostShownOfComment - size)}};
 }
 
 /// Drives and servers of other systems have a root as well.

@@ -69,12 +69,4 @@ std::string FindingText(const modIniHandler& texts, ScheduleFinding finding) {
     return textOf(texts, idOf(finding));
 }
 
-bool IsStorablePath(const CodePage& page, std::string_view path) {
-    return page.encode(path) && path.find_first_of("\r\n") == std::string_view::npos;
-}
-
-std::string UnstorableText(const modIniHandler& texts, std::string_view text) {
-    return textOf(texts, TextId::unstorable, {text});
-}
-
 }  // namespace kestedit

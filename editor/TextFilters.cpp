@@ -35,6 +35,12 @@ constexpr std::array filters{
 };
 // clang-format on
 
+const Filter* filterOf(const FormModel& form, const EditorControl& field) {
+    const auto* const filter =
+        std::ranges::find_if(filters, [&](const Filter& row) { return &(form.*row.field) == &field; });
+    return filter == filters.end() ? nullptr : filter;
+}
+
 bool contains(std::string_view characters, char32_t wanted) {
     while (!characters.empty()) {
         if (lowerCase(takeCharacter(characters).codePoint) == lowerCase(wanted)) return true;
@@ -42,27 +48,38 @@ bool contains(std::string_view characters, char32_t wanted) {
     return false;
 }
 
-}  // namespace
-
-void FilterFieldText(FormModel& form, EditorControl& field) {
-    const auto* const filter =
-        std::ranges::find_if(filters, [&](const Filter& row) { return &(form.*row.field) == &field; });
-    if (filter == filters.end()) return;
-    const bool lifted = filter->freeWhen && (form.*filter->freeWhen).isSet();
-    const std::string typed = field.text();
-    if (!(form.*filter->flag)) form.DroppedChars.erase(&field);
+/// Hands each character of `text` that the field does not accept to `drop`; returns the others.
+template <class Drop>
+std::string filtered(const FormModel& form, const Filter& filter, std::string_view text, Drop drop) {
+    if (filter.freeWhen && (form.*filter.freeWhen).isSet()) return std::string(text);
     std::string kept;
-    for (std::string_view rest = typed; !rest.empty();) {
-        const Character character = takeCharacter(rest);
-        if (lifted || contains(filter->characters, character.codePoint) == filter->allowed) {
+    while (!text.empty()) {
+        const Character character = takeCharacter(text);
+        if (contains(filter.characters, character.codePoint) == filter.allowed) {
             kept += character.bytes;
         } else {
-            form.*filter->flag = true;
-            std::string& dropped = form.DroppedChars[&field];
-            if (dropped.find(character.bytes) == std::string::npos) dropped += character.bytes;
+            drop(character.bytes);
         }
     }
-    field.EditValue = std::move(kept);
+    return kept;
+}
+
+}  // namespace
+
+std::string KeptText(const FormModel& form, const EditorControl& field, std::string_view text) {
+    const Filter* const filter = filterOf(form, field);
+    return filter ? filtered(form, *filter, text, [](std::string_view) {}) : std::string(text);
+}
+
+void FilterFieldText(FormModel& form, EditorControl& field) {
+    const Filter* const filter = filterOf(form, field);
+    if (!filter) return;
+    if (!(form.*filter->flag)) form.DroppedChars.erase(&field);
+    field.EditValue = filtered(form, *filter, field.text(), [&](std::string_view character) {
+        form.*filter->flag = true;
+        std::string& dropped = form.DroppedChars[&field];
+        if (dropped.find(character) == std::string::npos) dropped += character;
+    });
 }
 
 }  // namespace kestedit

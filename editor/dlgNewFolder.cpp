@@ -37,8 +37,9 @@ const Service* serviceOf(int mode) {
 
 }  // namespace
 
-dlgNewFolder::dlgNewFolder(FormModel& form, const modIniHandler& texts, std::string_view title, Platform& platform)
-    : form_(form), texts_(texts), title_(title), platform_(platform) {}
+dlgNewFolder::dlgNewFolder(FormModel& form, const modIniHandler& texts, std::string_view title, Platform& platform,
+                           JobCharacters& characters)
+    : form_(form), texts_(texts), title_(title), platform_(platform), characters_(characters) {}
 
 void dlgNewFolder::Load() {
     if (serviceOf(form_.fMode)) {
@@ -77,7 +78,7 @@ void dlgNewFolder::requireOpen() const {
 void dlgNewFolder::onTextTyped(EditorControl& control, std::string_view text) {
     requireOpen();
     if (&control != &dxTextEdit1) throw EventRefused(control.Name() + " takes no text");
-    if (!IsStorablePath(platform_.ini.codePage(), text)) throw EventRefused(UnstorableText(texts_, text));
+    characters_.require(dxTextEdit1, text, JobCharacters::Entry::typedName);
     dxTextEdit1.EditValue = singleLine(text);
     cmdCreate.Enabled = characterCount(text) >= shortestName;
 }
@@ -104,6 +105,7 @@ void dlgNewFolder::create() {
     if (!field) return;
     const std::string name = dxTextEdit1.text();
     const std::string path = platform_.files.BuildPath(folder_, name);
+    characters_.require(*field, path, JobCharacters::Entry::chosenPath);  // a relative field has become longer
     try {
         if (platform_.files.FolderExists(path)) return reportExisting();
         if (name.find('/') != std::string::npos) {

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "editor/JobCharacters.h"
 #include "form/FormModel.h"
 #include "persistence/modIniHandler.h"
 #include "platform/Export.h"
@@ -18,7 +19,8 @@ namespace kestedit {
 class KESTEDIT_EXPORT dlgNewFolder : public ControlRegistry {
   public:
     /// All must outlive the dialog.
-    dlgNewFolder(FormModel& form, const modIniHandler& texts, std::string_view title, Platform& platform);
+    dlgNewFolder(FormModel& form, const modIniHandler& texts, std::string_view title, Platform& platform,
+                 JobCharacters& characters);
 
     EditorControl fraNew{*this, ControlKind::frame, "fraNew"};
     /// Says in which folder the new one will stand: that of the path field, as an absolute path whatever the field
@@ -53,6 +55,7 @@ class KESTEDIT_EXPORT dlgNewFolder : public ControlRegistry {
     std::string_view title_;
     Platform& platform_;
     std::string folder_;  ///< where the new folder will stand
+    JobCharacters& characters_;
     bool open_ = true;
 };
 

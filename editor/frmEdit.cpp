@@ -58,7 +58,11 @@ std::int64_t colourOr(const std::string& text, std::int64_t fallback) {
 }  // namespace
 
 frmEdit::frmEdit(ComponentValues& values, Platform& platform)
-    : values_(values), platform_(platform), ini_(platform.ini, values), jobs_(platform.ini) {
+    : values_(values),
+      platform_(platform),
+      ini_(platform.ini, values),
+      jobs_(platform.ini),
+      characters_(*this, platform, ini_, jobs_) {
     ViewLevel = values.ViewLevel;
 }
 
@@ -118,6 +122,7 @@ void frmEdit::loadJob() {
     const std::string file = platform_.files.BuildPath(values_.JobDir, platform_.files.GetFileName(values_.JobFile));
     const auto job = jobs_.read(file);
     if (!job) return;
+    characters_.loaded(*job);
     GetAction(*this, *job);
     ApplyAction(*this);
     const std::string comment = ini_.ReadIniFileValue("Job", "Comment", "", values_.JobFile, textSize);

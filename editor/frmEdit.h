@@ -10,6 +10,7 @@
 #include <string_view>
 #include <utility>
 
+#include "editor/JobCharacters.h"
 #include "editor/JobFolders.h"
 #include "form/ComponentValues.h"
 #include "form/FormModel.h"
@@ -59,9 +60,9 @@ class KESTEDIT_EXPORT frmEdit : public FormModel {
 
     // ---- user events
     /// The text of a field is now `text`; one call for each change while typing, deleting or pasting. Refused, with the
-    /// text before it kept, when the job file's code page cannot hold it. Line breaks in a memo become "\r\n", in any
-    /// other field blanks. A date or time takes the value that its text says; one that says none is no refusal: the
-    /// value from before the typing stays.
+    /// text before it kept, when the job cannot hold it and the user does not agree to UTF-8. Line breaks in a memo
+    /// become "\r\n", in any other field blanks. A date or time takes the value that its text says; one that says none
+    /// is no refusal: the value from before the typing stays.
     void onTextTyped(EditorControl& control, std::string_view text);
     /// The user has left a field or confirmed it: checks that look at the disk run now and not while typing, and a
     /// finding about the field, which is not told while the user is still at it, is told now. A date or time is read
@@ -147,6 +148,7 @@ class KESTEDIT_EXPORT frmEdit : public FormModel {
     Platform& platform_;
     modIniHandler ini_;
     JobStore jobs_;
+    JobCharacters characters_;
     bool loading_ = true;
     bool open_ = true;
     bool timerRunning_ = true;

@@ -107,7 +107,7 @@ void frmEdit::onTextTyped(EditorControl& control, std::string_view text) {
         return changed(control, true);
     }
     if (control.ReadOnly) throw EventRefused(control.Name() + " is filled by its buttons only");
-    if (!platform_.ini.codePage().encode(text)) throw EventRefused(UnstorableText(ini_, text));
+    characters_.require(control, KeptText(*this, control, text), JobCharacters::Entry::typed);
     control.EditValue = control.Kind == ControlKind::memo ? windowsLines(text) : singleLine(text);
     FilterFieldText(*this, control);
     if (control.Kind == ControlKind::path) withdrawPathFinding(control);
@@ -126,6 +126,7 @@ void frmEdit::onEditingFinished(EditorControl& control) {
         return changed(control);
     }
     refreshNotices();
+    characters_.editingFinished();
     if (control.Kind == ControlKind::path && &control != &dxExecPath) checkPaths();
     if (!timerRunning_) checkSchedule();
 }

@@ -47,7 +47,7 @@ void frmEdit::browsePath(EditorControl& control) {
     const std::string folder =
         BrowseForFolder(platform_.prompts, title, control.text(), true, std::nullopt, true, false);
     if (folder.empty()) return;
-    if (!IsStorablePath(platform_.ini.codePage(), folder)) throw EventRefused(UnstorableText(ini_, folder));
+    characters_.require(control, folder, JobCharacters::Entry::chosenPath);
     control.EditValue = folder;
     control.ToolTipText = folder;
     changed(control);
@@ -56,9 +56,10 @@ void frmEdit::browsePath(EditorControl& control) {
 
 void frmEdit::createFolder(EditorControl& control) {
     fMode = modeOf(*this, control);
-    dlgNewFolder dialog(*this, ini_, values_.AppTitle, platform_);
+    dlgNewFolder dialog(*this, ini_, values_.AppTitle, platform_, characters_);
     dialog.Load();
     platform_.prompts.runNewFolder(dialog);
+    characters_.editingFinished();  // of the dialog's field, which goes with it
     changed(control);
     checkPaths();
 }
@@ -71,7 +72,7 @@ void frmEdit::browseExecPath(int button) {
     const auto file = platform_.prompts.chooseFile(
         {TextCatalogue[catalogue::programTitle], filter, 1, hideReadOnlyBox | fileMustExist});
     if (!file) return;
-    if (!IsStorablePath(platform_.ini.codePage(), *file)) throw EventRefused(UnstorableText(ini_, *file));
+    characters_.require(dxExecPath, *file, JobCharacters::Entry::chosenPath);
     dxExecPath.EditValue = *file;
     changed(dxExecPath);
 }

@@ -70,7 +70,7 @@ void frmEdit::save() {
         if (control->Typed) onEditingFinished(*control);
     typing_ = nullptr;
     refreshNotices();
-    if (!validate()) return;
+    if (!validate() || !characters_.agreeToSave()) return;
     const std::string name{trimBlanks(dxName.text())};
     if (values_.Mode == "New") return saveNew(name);
     if (values_.Mode == "Edit") return saveEdited(name);

@@ -277,6 +277,7 @@ struct KESTEDIT_EXPORT FormModel : ControlRegistry {
     /// What the filter of a field has dropped, each character once, for the notice beside the field.
     std::map<const EditorControl*, std::string> DroppedChars;
     bool DateFormatChanged = false;
+    bool StoredAsUtf8 = false;  ///< the job's file is UTF-8, or will be: a character may take several bytes
     int HandledUnZipItem = -1;  ///< the optUnZip member whose rule ran last
     int fMode = 0;              ///< path field that the new-folder dialog serves: source, destination, monitored folder
     std::string StoredNodeIcon;  ///< the action's image as the job holds it; stands where the view has no node for it

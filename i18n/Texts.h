@@ -92,6 +92,15 @@ enum class TextId : std::uint8_t {
     noTimeKept,
     noTime,
     storedNoTime,
+    // characters outside the code page
+    unstorablePassword,
+    storeAsUtf8,
+    olderRunners,
+    readAsOthers,
+    unconvertible,
+    askedWhenLeft,
+    notesRoomUtf8,
+    notesTooLongUtf8,
     // the window
     browseButton,
     newFolderButton,

@@ -26,6 +26,7 @@ set(public_headers
   form/EditorControl.h
   form/FormModel.h
   editor/ImageMeaning.h
+  editor/JobCharacters.h
   editor/JobFolders.h
   editor/dlgNewFolder.h
   editor/frmEdit.h

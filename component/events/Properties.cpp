@@ -57,6 +57,7 @@ constexpr auto fields = std::to_array<FormField>({
     {"InvalidFolderMatchChars", [](const frmEdit& form) { return flagText(form.InvalidFolderMatchChars); }},
     {"InvalidExtChars",         [](const frmEdit& form) { return flagText(form.InvalidExtChars); }},
     {"DateFormatChanged",       [](const frmEdit& form) { return flagText(form.DateFormatChanged); }},
+    {"StoredAsUtf8",            [](const frmEdit& form) { return flagText(form.StoredAsUtf8); }},
     {"FocusedControl",          focusText},
     {"ShowIcons",               [](const frmEdit& form) { return flagText(form.Navigation.ShowIcons); }},
     {"RowColour",               [](const frmEdit& form) { return std::to_string(form.Navigation.RowColour); }},

@@ -24,6 +24,18 @@ QString textOf(const QPlainTextEdit& memo) {
     return text;
 }
 
+/// While the form handles a change it may ask the user, and what it asks about stays in view until the answer.
+class Asking {
+  public:
+    explicit Asking(bool& flag) : flag_(flag) { flag_ = true; }
+    ~Asking() { flag_ = false; }
+    Asking(const Asking&) = delete;
+    Asking& operator=(const Asking&) = delete;
+
+  private:
+    bool& flag_;
+};
+
 /// A line of text; the line may be a part of the widget.
 class LineBinding : public Binding {
   public:
@@ -31,7 +43,10 @@ class LineBinding : public Binding {
         : Binding(control, widget, gate), line_(line) {
         QObject::connect(&line, &QLineEdit::textEdited, &line, [this](const QString& text) {
             userChanged_ = true;
-            hand([this, typed = fromQt(text)](frmEdit& form) { form.onTextTyped(this->control(), typed); });
+            hand([this, typed = fromQt(text)](frmEdit& form) {
+                const Asking asking(asking_);
+                form.onTextTyped(this->control(), typed);
+            });
             userChanged_ = false;
         });
         QObject::connect(&line, &QLineEdit::returnPressed, &line,
@@ -45,6 +60,7 @@ class LineBinding : public Binding {
     void showReadOnly(bool readOnly) override { line_.setReadOnly(readOnly); }
 
     void showContent() override {
+        if (asking_) return;
         const QString wanted = toQt(control().text());
         if (first_) {
             line_.setText(wanted);
@@ -59,6 +75,7 @@ class LineBinding : public Binding {
     QLineEdit& line_;
     bool first_ = true;
     bool userChanged_ = false;
+    bool asking_ = false;
 };
 
 class PasswordBinding final : public LineBinding {
@@ -104,7 +121,10 @@ class MemoBinding final : public Binding {
         : Binding(control, memo, gate), memo_(memo) {
         QObject::connect(&memo, &QPlainTextEdit::textChanged, &memo, [this] {
             userChanged_ = true;
-            hand([this, typed = fromQt(textOf(memo_))](frmEdit& form) { form.onTextTyped(this->control(), typed); });
+            hand([this, typed = fromQt(textOf(memo_))](frmEdit& form) {
+                const Asking asking(asking_);
+                form.onTextTyped(this->control(), typed);
+            });
             userChanged_ = false;
         });
     }
@@ -116,6 +136,7 @@ class MemoBinding final : public Binding {
     void showReadOnly(bool readOnly) override { memo_.setReadOnly(readOnly); }
 
     void showContent() override {
+        if (asking_) return;
         const QString wanted = linesToQt(control().text());
         if (textOf(memo_) == wanted) return;
         const QSignalBlocker quiet(memo_);
@@ -127,6 +148,7 @@ class MemoBinding final : public Binding {
   private:
     QPlainTextEdit& memo_;
     bool userChanged_ = false;
+    bool asking_ = false;
 };
 
 }  // namespace

@@ -125,7 +125,11 @@ TEST_F(CInterfaceTest, MessageBoxesGetTheirCarefulAnswerOrGoToTheHost) {
     const std::string other = "[Job]\r\nName=old\r\n";
     static_cast<void>(folder_.file("Night.job", other));
     kestEdit_setDriver(editor_, &run, nullptr, this);
-    show([this] { save(); });
+    show([this] {
+        EXPECT_EQ(event("type", "dxSource", "/日"), KESTEDIT_REFUSED);
+        EXPECT_STREQ(kestEdit_lastError(), "The text contains characters that the job file cannot hold: U+65E5 日");
+        save();
+    });
     EXPECT_EQ(bytesOf(job_), other);
 
     kestEdit_setDriver(editor_, &run, &ask, this);

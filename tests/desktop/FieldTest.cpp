@@ -62,9 +62,12 @@ TEST_F(Field, PatternSaysWhatItMeansAndWhatIsWrongWithIt) {
 
 TEST_F(Field, TextThatTheJobCannotHoldIsToldAndNotTaken) {
     open();
-    enter("dxName", "Plan日b");
+    prompts.answers = {Answer::no, Answer::no};
+    enter("dxName", "Plan日本b");
     EXPECT_EQ(line("dxName").text(), "Planb");
     EXPECT_EQ(at("dxName").text(), "Planb");
+    EXPECT_EQ(prompts.messages.size(), 1U) << "one question for all that is typed into the field";
+    prompts.answers = {Answer::no, Answer::no};
     enter("dxName", "日");
     EXPECT_TRUE(notice("dxName").contains(u'日'));
     enter("dxComment", "one\ntwo日");
@@ -103,6 +106,35 @@ TEST_F(Field, BlanksInNotesThatDoNotBreakStayOnes) {
     EXPECT_EQ(at("dxComment").text(), "10\u00A0km away");
     enter("dxComment", "5\u00A0m\nhigh");
     EXPECT_EQ(at("dxComment").text(), "5\u00A0m\r\nhigh");
+}
+
+TEST_F(Field, TextThatIsAskedAboutStandsInTheFieldAndIsKeptOrTakenBackWhole) {
+    open();
+    enter("dxName", "Plan!");
+    QLineEdit& name = line("dxName");
+    const auto paste = [&](Answer answer) {
+        prompts.answers = {answer};
+        prompts.whileAsked = [&] {
+            window().refresh();
+            EXPECT_EQ(name.text().toStdString(), "Plan αβγ!") << "while the question stands in front";
+        };
+        name.setCursorPosition(4);
+        QApplication::clipboard()->setText(" αβγ");
+        QTest::keyClick(&name, Qt::Key_V, Qt::ControlModifier);
+    };
+    paste(Answer::no);
+    EXPECT_EQ(name.text().toStdString() + at("dxName").text(), "Plan!Plan!");
+    QTest::keyClick(&name, Qt::Key_Return);  // ends the editing
+    paste(Answer::yes);
+    EXPECT_EQ(name.text().toStdString() + at("dxName").text(), "Plan αβγ!Plan αβγ!");
+    EXPECT_EQ(name.cursorPosition(), 8);
+    QTest::keyClick(&name, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(name.text(), "Plan!");
+    enter("dxComment", "ελ");
+    EXPECT_EQ(at("dxComment").text(), "ελ");
+    press("cmdSave");
+    EXPECT_NE(jobBytes("Plan!").find("Comment=ελ\r\n"), std::string::npos);
+    EXPECT_EQ(prompts.messages.size(), 2U);
 }
 
 TEST_F(Field, WheelPassesOverFieldsWithoutTheFocus) {

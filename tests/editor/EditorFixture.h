@@ -25,10 +25,12 @@ class ScriptedPrompts final : public Prompts {
     std::deque<std::string> choices;  ///< of both choosers; with none left they are cancelled
     std::function<void(dlgNewFolder&)> newFolder;
     std::vector<MessageBox> messages;
-    std::string lastChooser;  ///< its title, or what it lets choose
+    std::function<void()> whileAsked;  ///< the message box stands open
+    std::string lastChooser;           ///< its title, or what it lets choose
 
     Answer showMessage(const MessageBox& box) override {
         messages.push_back(box);
+        if (whileAsked) whileAsked();
         if (answers.empty()) throw std::logic_error("nobody answers: " + box.text);
         return next(answers);
     }

@@ -58,11 +58,11 @@ TEST_F(BadInputTest, NoNameLeadsElsewhere) {
 }
 
 TEST_F(BadInputTest, WhatAJobCannotHoldIsRefused) {
-    for (const std::string text : {"\xE5\xAD\x97", "two\\nlines", "two\\rlines"}) {
+    for (const std::string text : {"\xE5\xAD\x97", "two\\nlines", "two\\rlines", "\xE5\xAD\x97\\n"}) {
         for (const std::string& chosen :
              {"folder \"/" + text + "\"\nbutton dxSource 0\n", "button dxSource 1\ntype dxTextEdit1 \"" + text + "\"\n",
               "check chkExecDo 1\nfile \"/" + text + "\"\nbutton dxExecPath 0\n"}) {
-            const auto refused = script("new", chosen);
+            const auto refused = script("new", "answer no\n" + chosen);
             EXPECT_NE(refused.err.find("cannot"), std::string::npos) << chosen << refused.err;
         }
     }

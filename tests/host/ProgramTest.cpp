@@ -184,6 +184,29 @@ TEST_F(ScriptTest, TextsOfTheProgramStandInTheirPageWhateverTheJobsHave) {
     EXPECT_NE(test::bytesOf(folder.path() / "Łódź.job").find("Name=Łódź"), std::string::npos);
 }
 
+TEST_F(ScriptTest, CharactersOutsideThePageTakeAnAnswer) {
+    const std::string type = "type dxName \"Zdjęcia z Łodzi\"\n";
+    const auto silent = script("new", type + "click cmdSave\n");
+    EXPECT_TRUE(
+        silent.err.starts_with("kestedit: home/script:1: no answer is queued for message \"Message\" \"The text "
+                               "contains characters that the job file cannot hold: U+0119 ę, U+0141 Ł\\r\\n"))
+        << silent.err;
+    EXPECT_EQ(silent.err.find("Zdj"), std::string::npos);
+    const auto no = script("new", "answer no\n" + type + "click cmdSave\n");
+    EXPECT_EQ(no.err,
+              "kestedit: home/script:2: The text contains characters that the job file cannot hold: U+0119 ę, "
+              "U+0141 Ł\n");
+    EXPECT_EQ(silent.code + no.code, 2);
+    EXPECT_EQ(folder.names(), "home ");
+    EXPECT_EQ(script("new", "answer yes\n" + type + "type dxSource /ä\nclick cmdSave\n").code, 0);
+    const std::string file = "Zdjęcia z Łodzi.job";
+    EXPECT_TRUE(test::bytesOf(folder.path() / file).starts_with("[Job]\r\nName=Zdjęcia z Łodzi\r\nFrom=/ä\r\n"));
+    EXPECT_EQ(script("edit \"" + file + "\"", "print dxName.EditValue\nprint dxSource.EditValue\n").out,
+              "dxName.EditValue = \"Zdjęcia z Łodzi\"\ndxSource.EditValue = \"/ä\"\nevent none\n");
+    EXPECT_EQ(kestedit("ini get \"" + file + "\" Job From").out, "/Ã¤\n") << "stands in the page that it is told";
+    EXPECT_EQ(kestedit("ini get \"" + file + "\" Job From --code-page 65001").out, "/ä\n");
+}
+
 TEST_F(ScriptTest, EventsGoToTheDialogInFront) {
     const std::string open = "type dxSource .\nbutton dxSource 1\nprint dlgNewFolder.Caption\n";
     const auto created = script("new", open + "type dxTextEdit1 sub\nclick cmdCreate\nprint dxSource.EditValue\n");

@@ -1,0 +1,245 @@
+// Texts that the code page of a job does not hold: the question, and the file that each answer leaves.
+#include <algorithm>
+
+#include "editor/CharacterNames.h"
+#include "tests/editor/EditorFixture.h"
+
+namespace kestedit {
+namespace {
+
+struct Characters : test::EditorTest {
+    /// Opens the job "a", which holds these bytes.
+    void load(std::string_view bytes) {
+        putJob("a", bytes);
+        edit("a");
+    }
+    void save() {
+        click("cmdSave");
+        EXPECT_FALSE(form().isOpen());
+    }
+    /// Why the form refuses the text; nothing when it takes it.
+    std::string refusal(std::string_view name, std::string_view text) {
+        try {
+            type(name, text);
+            return "";
+        } catch (const EventRefused& refused) {
+            return refused.what();
+        }
+    }
+    [[nodiscard]] bool holds(std::string_view job, std::string_view bytes) const {
+        return jobBytes(job).find(bytes) != std::string::npos;
+    }
+};
+
+TEST_F(Characters, OfEveryScriptAreStoredAfterOneQuestionAndReadBack) {
+    for (const std::string path : {"/home/zażółć/gęślą jaźń", "/home/αρχεία/Ελλάδα", "/home/файлы/ёж",
+                                   "/home/書類/日本語", "/home/שלום", "/home/🙂"}) {
+        SCOPED_TRACE(path);
+        prompts.messages.clear();
+        create();
+        prompts.answers = {Answer::yes};
+        type("dxSource", path);
+        for (const auto field : {"dxDest", "dxName", "dxComment", "dxSource"})
+            type(field, field == std::string_view("dxName") ? path.substr(6, path.find('/', 6) - 6) : path + " ü");
+        EXPECT_EQ(prompts.messages.size(), 1U);
+        const std::string name = form().dxName.text();
+        save();
+        EXPECT_TRUE(holds(name, "\r\nFrom=" + path + " ü\r\nTo=" + path + " ü\r\n")) << jobBytes(name);
+        edit(name);
+        EXPECT_EQ(form().dxSource.text(), path + " ü");
+        EXPECT_EQ(form().dxComment.text(), path + " ü");
+        type("dxDest", "/another " + path);
+        save();
+        EXPECT_TRUE(holds(name, "\r\nTo=/another " + path + "\r\n"));
+        EXPECT_EQ(prompts.messages.size(), 1U) << "a job in UTF-8 stays so without a question";
+    }
+}
+
+TEST_F(Characters, QuestionNamesThemAndANoIsAskedAgainForTheNextEditingOnly) {
+    create();
+    type("dxComment", "before");
+    prompts.answers = {Answer::no};
+    EXPECT_EQ(refusal("dxComment", "before 日本日"),
+              "Der Text enthält Zeichen, die die Auftragsdatei nicht speichern kann: U+65E5 日, U+672C 本");
+    const std::string question = prompts.messages.back().text;
+    EXPECT_TRUE(
+        question.starts_with("Der Text enthält Zeichen, die die Auftragsdatei nicht speichern kann: U+65E5 日, "
+                             "U+672C 本\r\n\r\nSoll dieser Auftrag ab jetzt als UTF-8 "))
+        << question;
+    EXPECT_EQ(question.find("before"), std::string::npos);
+    EXPECT_TRUE(refusal("dxComment", "before α")
+                    .ends_with("werden Sie wieder gefragt, ob der Auftrag alle Zeichen "
+                               "enthalten soll."));
+    type("dxComment", "before ü");
+    EXPECT_EQ(prompts.messages.size(), 1U);
+    form().onEditingFinished(form().dxComment);
+    EXPECT_THROW(type("dxComment", "before α"), std::logic_error) << "nobody answers";
+    EXPECT_EQ(form().dxComment.text(), "before ü");
+    prompts.answers = {Answer::no, Answer::yes};
+    EXPECT_NE(refusal("dxComment", "before α"), "");
+    type("dxName", "ж");
+    save();
+}
+
+TEST_F(Characters, AreNeverThoseOfAPasswordAndNeverMany) {
+    create();
+    act(3);
+    check("chkZipAll");
+    prompts.answers = {Answer::no, Answer::no};
+    EXPECT_EQ(refusal("dxZipPwd", "secret日"),
+              "Das Passwort enthält Zeichen, die die Auftragsdatei nicht speichern kann.");
+    EXPECT_EQ((prompts.messages.back().text + refusal("dxZipPwd", "secret日")).find("日"), std::string::npos);
+    const auto all = [](std::string_view) { return true; };
+    EXPECT_EQ(CharacterNames("abcdeab", all), "U+0061 a, U+0062 b, U+0063 c, U+0064 d, U+0065 e");
+    EXPECT_EQ(CharacterNames("abcdef", all), "U+0061 a, U+0062 b, U+0063 c, U+0064 d, U+0065 e, …");
+    EXPECT_EQ(CharacterNames("\u202E\n\xFF😀", all), "U+202E, U+000A, 0xFF, U+1F600 😀");
+}
+
+TEST_F(Characters, ChosenOrCreatedAreAskedAboutLikeTypedOnes) {
+    create();
+    const auto choose = [this](Answer answer, const std::string& path) {
+        prompts.answers = {answer};
+        prompts.choices = {path};
+        button("dxSource", 0);
+    };
+    EXPECT_THROW(choose(Answer::no, "/日"), EventRefused);
+    EXPECT_THROW(choose(Answer::no, "/日"), EventRefused) << "each choice is a question";
+    EXPECT_THROW(choose(Answer::yes, "/日\n"), EventRefused) << "UTF-8 does not help";
+    EXPECT_EQ(prompts.messages.size(), 2U);
+    type("dxSource", jobs.string());
+    prompts.newFolder = [](dlgNewFolder& dialog) {
+        for (int i = 0; i < 2; ++i)
+            EXPECT_THROW(dialog.onTextTyped(dialog.dxTextEdit1, "日本"), EventRefused);
+    };
+    for (std::size_t opening = 1; opening <= 2; ++opening) {
+        prompts.answers = {Answer::no};
+        button("dxSource", 1);
+        EXPECT_EQ(prompts.messages.size(), 2 + opening) << "once each time it opens";
+    }
+    type("dxSource", jobs.string());
+    std::filesystem::create_directory(jobs / "ł");
+    const auto before = std::filesystem::current_path();
+    std::filesystem::current_path(jobs / "ł");
+    type("dxSource", "x");
+    prompts.newFolder = [](dlgNewFolder& dialog) {
+        dialog.onTextTyped(dialog.dxTextEdit1, "new");
+        EXPECT_THROW(dialog.onCommand(dialog.cmdCreate), EventRefused) << "in a folder that does not fit";
+    };
+    prompts.answers = {Answer::no};
+    button("dxSource", 1);
+    std::filesystem::current_path(before);
+    choose(Answer::yes, "/日本");
+    EXPECT_EQ(form().dxSource.text(), "/日本");
+    type("dxName", "a");
+    save();
+    EXPECT_TRUE(holds("a", "From=/日本\r\n"));
+}
+
+TEST_F(Characters, ThatAFilterDropsAreNotAskedAbout) {
+    create();
+    choose("optExt", 1);
+    type("dxExt", "txtд");
+    EXPECT_EQ(form().dxExt.text(), "txt");
+    EXPECT_TRUE(form().InvalidExtChars);
+}
+
+TEST_F(Characters, OfForeignLinesAreConvertedWithTheJob) {
+    const std::string foreign =
+        "; M\xFCll \x80\n[Job]\nName=a\nComment=gr\xFC\xDF\x65\nKey of \xE4nother = "
+        "\xD6l\n\n[Gr\xF6\xDF\x65]\nk=\x84x\x93\n";
+    const std::string converted = "; Müll €\n[Job]\nName=a\nComment=grüße\nKey of änother = Öl\n";
+    load(foreign);
+    type("dxSource", "/Ümläut");
+    save();
+    EXPECT_TRUE(jobBytes("a").starts_with(foreign.substr(0, foreign.find("\n\n"))));
+    EXPECT_TRUE(holds("a", "\nFrom=/\xDCml\xE4ut\n") && holds("a", "\n[Gr\xF6\xDF\x65]\nk=\x84x\x93\n"))
+        << "stays in its page";
+    edit("a");
+    prompts.answers = {Answer::yes};
+    type("dxDest", "/Łódź");
+    save();
+    EXPECT_TRUE(jobBytes("a").starts_with(converted)) << jobBytes("a");
+    EXPECT_TRUE(holds("a", "\nFrom=/Ümläut\nTo=/Łódź\n") && holds("a", "\n[Größe]\nk=„x“\n")) << jobBytes("a");
+    edit("a");
+    EXPECT_EQ(form().dxSource.text() + form().dxComment.text(), "/Ümläutgrüße");
+    type("dxName", "β");
+    save();
+    EXPECT_TRUE(holds("β", "Name=β\r\nFrom=/Ümläut\r\nTo=/Łódź\r\n")) << "a rename keeps to UTF-8";
+    EXPECT_EQ(prompts.messages.size(), 1U);
+}
+
+TEST_F(Characters, OfAsciiStayAsTheyAreAndAByteOrderMarkIsUtf8) {
+    load("[Job]\r\nName=a\r\n");
+    save();
+    const std::string ascii = jobBytes("a");
+    EXPECT_EQ(std::ranges::find_if(ascii, [](char byte) { return byte < 0; }), ascii.end());
+    load("\xEF\xBB\xBF[Job]\r\nName=a\r\n");
+    type("dxSource", "/ä日");
+    save();
+    EXPECT_TRUE(jobBytes("a").starts_with("\xEF\xBB\xBF[Job]\r\nName=a\r\n") && holds("a", "\r\nFrom=/ä日\r\n"));
+    load("[Job]\r\nName=a\r\nFrom=/\xE4\r\nTo=/\xC3\xA4\r\n");
+    EXPECT_EQ(form().dxDest.text(), "/Ã¤") << "not UTF-8 throughout";
+}
+
+// "Ã¤" in page 1252 is "ä" in UTF-8.
+TEST_F(Characters, WhoseBytesWouldBeReadAsOthersAreAskedAboutWhenSaving) {
+    create();
+    type("dxName", "a");
+    type("dxSource", "/Ã¤");
+    act(3);
+    check("chkZipAll");
+    type("dxZipPwd", "Ã¼");
+    prompts.answers = {Answer::no};
+    click("cmdSave");
+    EXPECT_TRUE(form().isOpen());
+    EXPECT_EQ(jobNames(), "");
+    EXPECT_TRUE(prompts.messages.back().text.starts_with(
+        "Beim nächsten Öffnen würden diese Zeichen als andere gelesen: U+00C3 Ã, U+00A4 ¤\r\n"))
+        << prompts.messages.back().text;
+    prompts.answers = {Answer::yes};
+    save();
+    edit("a");
+    EXPECT_EQ(form().dxSource.text() + form().dxZipPwd.text(), "/Ã¤Ã¼");
+    type("dxSource", "/ö");
+    save();
+    EXPECT_TRUE(holds("a", "From=/ö\r\n"));
+
+    // One letter that is no UTF-8 in this page tells of the page.
+    create();
+    type("dxName", "b");
+    type("dxSource", "/Ã¤/ü");
+    save();
+    edit("b");
+    EXPECT_EQ(form().dxSource.text(), "/Ã¤/ü");
+    EXPECT_THROW(JobStore{ini}.write(jobFile("a"), {{JobLine{"Job", "From", "/Ã¤"}}}, JobStore::Write::create),
+                 std::system_error);
+}
+
+TEST_F(Characters, CannotBeAddedToAJobWithBytesThatAreNone) {
+    const std::string job = "[Job]\r\nName=a\r\n; a\x81\r\nFrom=/b\x8D\r\n";
+    load(job);
+    EXPECT_TRUE(refusal("dxDest", "/日").ends_with("denn in Zeile 3 stehen Bytes, die keine Zeichen sind."));
+    EXPECT_EQ(refusal("dxSource", form().dxSource.text() + "ü"), "");
+    save();
+    EXPECT_TRUE(holds("a", "; a\x81\r\nFrom=/b\x8D\xFC\r\n")) << "they are kept";
+    putJob("a", job);
+    JobStore utf8{ini};
+    utf8.writeAsUtf8();
+    EXPECT_THROW(utf8.write(jobFile("a"), {{JobLine{"Job", "To", "/日"}}}, JobStore::Write::update), std::system_error);
+    EXPECT_EQ(jobBytes("a"), job);
+}
+
+TEST_F(Characters, OfACommentAreCutBetweenTwoOfThem) {
+    std::string comment;
+    for (int i = 0; i < 200; ++i)
+        comment += "ж";
+    load("[Job]\nName=a\nComment=" + comment + "\n");
+    EXPECT_EQ(form().dxComment.text(), comment.substr(0, 254));
+    type("dxComment", "жж");
+    EXPECT_TRUE(form().dxComment.Notice.starts_with("Noch frei: 251 von 255 Bytes.")) << form().dxComment.Notice;
+    type("dxComment", comment);
+    EXPECT_TRUE(form().dxComment.Notice.starts_with("145 Bytes zu viel")) << form().dxComment.Notice;
+}
+
+}  // namespace
+}  // namespace kestedit
