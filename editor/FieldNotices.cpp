@@ -3,22 +3,20 @@
 #include <algorithm>
 #include <array>
 #include <map>
-#include <optional>
-#include <regex>
 #include <span>
 #include <string>
 #include <utility>
-#include <vector>
 
 #include "editor/JobName.h"
+#include "editor/Notice.h"
 #include "editor/NumberRanges.h"
+#include "editor/PatternNotice.h"
 #include "editor/RequiredFields.h"
 #include "editor/TypedMoments.h"
 #include "editor/Views.h"
 #include "editor/rules/paths.h"
 #include "editor/rules/schedule.h"
 #include "form/ControlNames.h"
-#include "i18n/Texts.h"
 #include "persistence/DurationMinutes.h"
 #include "persistence/modSaveValues.h"
 #include "platform/Text.h"
@@ -26,13 +24,6 @@
 namespace kestedit {
 
 namespace {
-
-/// A text and what stands in the places of its "%1", "%2" ...
-struct Notice {
-    TextId text;
-    std::vector<std::string> values = {};
-};
-using Noticed = std::optional<Notice>;
 
 Noticed when(bool holds, TextId text) {
     return holds ? Noticed{{text}} : std::nullopt;
@@ -57,18 +48,10 @@ Noticed dropped(const FormModel& form, const EditorControl& field, TextId text) 
     return Notice{text, {std::move(characters), form.chkRegExFolder.plainCaption()}};
 }
 
-bool isRegularExpression(const std::string& pattern) {
-    try {
-        (void)std::regex(pattern, std::regex::ECMAScript);
-        return true;
-    } catch (const std::regex_error&) {
-        return false;
-    }
-}
-
 /// A pattern that is to be a regular expression and is none matches nothing.
 Noticed pattern(const EditorControl& field, const EditorControl& regExBox) {
-    return when(regExBox.isSet() && !field.isEmpty() && !isRegularExpression(field.text()), TextId::badRegEx);
+    if (!regExBox.isSet() || field.isEmpty()) return std::nullopt;
+    return regularExpressionNotice(field.text());
 }
 
 Noticed required(const FormModel& form, const EditorControl& field) {

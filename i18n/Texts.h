@@ -101,6 +101,13 @@ enum class TextId : std::uint8_t {
     askedWhenLeft,
     notesRoomUtf8,
     notesTooLongUtf8,
+    regExNeedsParenthesis,
+    regExSpareParenthesis,
+    regExNeedsBracket,
+    regExNothingToRepeat,
+    regExOpenBackslash,
+    regExTooLong,
+    regExTooDeep,
     // the window
     browseButton,
     newFolderButton,

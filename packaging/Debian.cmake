@@ -82,6 +82,8 @@ foreach(name KESTEDIT LIBKESTEDITDESKTOP1)
     string(APPEND CPACK_DEBIAN_${name}_PACKAGE_DEPENDS ", libqt6svg6")
   endif()
 endforeach()
+# The archive brings no library along.
+string(APPEND CPACK_DEBIAN_LIBKESTEDIT-DEV_PACKAGE_DEPENDS ", libpcre2-dev")
 # CPack writes scripts that run ldconfig; the trigger is what Debian wants.
 foreach(package IN LISTS libraries)
   string(TOUPPER ${package} name)

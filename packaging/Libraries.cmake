@@ -37,12 +37,12 @@ endfunction()
 
 add_library(kestEdit SHARED ${core_objects})
 shared_library(kestEdit core)
-target_link_libraries(kestEdit PRIVATE Threads::Threads)
+target_link_libraries(kestEdit PRIVATE Threads::Threads PkgConfig::PCRE2)
 
 add_library(kestEdit_static STATIC ${core_objects})
 public_library(kestEdit_static core_static)
 set_target_properties(kestEdit_static PROPERTIES OUTPUT_NAME kestEdit)
-target_link_libraries(kestEdit_static INTERFACE Threads::Threads)
+target_link_libraries(kestEdit_static INTERFACE Threads::Threads pcre2-8)
 
 install(TARGETS kestEdit EXPORT core
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT libkestedit1 NAMELINK_COMPONENT libkestedit-dev)

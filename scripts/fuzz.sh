@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Feeds the readers of files and scripts with made-up input under the sanitizers, and checks what must hold for any of it
+# Feeds the readers of files, patterns and scripts with made-up input under the sanitizers, and checks what must hold for any of it
 # (tests/fuzz). An input that breaks a property is kept in build/fuzz and ends the run.
-#   scripts/fuzz.sh [SECONDS]     (for each of the four fuzzers; default: 60)
+#   scripts/fuzz.sh [SECONDS]     (for each of the five fuzzers; default: 60)
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
@@ -10,7 +10,7 @@ programs=build/fuzz/tests/fuzz
 
 scripts/setup.sh build fuzz
 cmake --preset fuzz >/dev/null
-cmake --build --preset fuzz --parallel "$(nproc)" --target ini_fuzz job_fuzz language_fuzz script_fuzz
+cmake --build --preset fuzz --parallel "$(nproc)" --target ini_fuzz job_fuzz language_fuzz pattern_fuzz script_fuzz
 
 # What it learns is kept beside the build, so that the next run goes on from there.
 fuzz() {
@@ -26,4 +26,4 @@ fuzz() {
 }
 export -f fuzz
 export programs seconds
-printf '%s\n' ini job language script | xargs -P "$(nproc)" -I{} bash -euo pipefail -c 'fuzz {}'
+printf '%s\n' ini job language pattern script | xargs -P "$(nproc)" -I{} bash -euo pipefail -c 'fuzz {}'

@@ -10,6 +10,7 @@ build=(
     ccache
     libcli11-dev
     libgtest-dev
+    libpcre2-dev
     qt6-base-dev
     qt6-svg-dev
     pkg-config

@@ -8,7 +8,6 @@
 // With KESTEDIT_ACCEPT set, what was printed takes the place of what is expected: read it before you commit it.
 #include <algorithm>
 #include <fstream>
-#include <regex>
 #include <sstream>
 #include <vector>
 
@@ -59,7 +58,7 @@ struct Golden : test::ProgramTest, testing::WithParamInterface<fs::path> {
             static_cast<void>(folder.file(*job, withWindowsLineEnds(section.lines)));
         } else if (const auto target = after(section.title, "script")) {
             const auto result = script(*target, section.lines);
-            printed = std::regex_replace(result.out + result.err, std::regex(folder.path().string()), "$$PWD");
+            printed = withoutFolder(result.out + result.err);
         } else if (section.title == "prints") {
             if (std::getenv("KESTEDIT_ACCEPT")) section.lines = printed;
             EXPECT_EQ(printed, section.lines);
@@ -68,6 +67,12 @@ struct Golden : test::ProgramTest, testing::WithParamInterface<fs::path> {
         } else {
             FAIL() << "no such section: " << section.title;
         }
+    }
+    [[nodiscard]] std::string withoutFolder(std::string text) const {
+        const std::string own = folder.path().string();
+        for (std::size_t place = 0; (place = text.find(own, place)) != text.npos;)
+            text.replace(place, own.size(), "$PWD");
+        return text;
     }
     void expectIn(const std::string& file, const std::string& lines) {
         const std::string stored = "\n" + test::bytesOf(folder.path() / file);

@@ -1,5 +1,5 @@
 // The program as a shell calls it: options, single keys, and scripts with their words, events and failures.
-#include <regex>
+#include <sstream>
 #include <tuple>
 #include <vector>
 
@@ -113,7 +113,10 @@ frmEdit.PageNodeIndex(11) = 11
 frmEdit.PageNodeIndex(99) = Empty
 frmEdit.FocusedControl = "dxName"
 )";
-    const std::string lines = std::regex_replace(printed, std::regex("(.+) = .+\n"), "print $1\n");
+    std::string lines;
+    std::istringstream values(printed);
+    for (std::string line; std::getline(values, line);)
+        lines += "print " + line.substr(0, line.find(" = ")) + "\n";
     const std::string events = "type dxComment \"a\\n\\\"b\\\"\"\nchoose optAge 4\nset-date dxFileDate 2028-02-29\n";
     EXPECT_EQ(script("new", events + lines + "frames\n").out, printed + "fraComment\nevent none\n");
 
