@@ -12,8 +12,15 @@ foreach(package IN LISTS kestEdit_packages)
 endforeach()
 install(FILES ${PROJECT_SOURCE_DIR}/docs/embedding.md ${PROJECT_SOURCE_DIR}/docs/job-file.md ${PROJECT_SOURCE_DIR}/docs/script.md
   DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/libkestedit-dev COMPONENT libkestedit-dev EXCLUDE_FROM_ALL)
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples
-  DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/libkestedit-dev COMPONENT libkestedit-dev EXCLUDE_FROM_ALL)
+# The sources alone, not what a build or a run of an example has left beside them.
+file(GLOB examples CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR}
+  ${PROJECT_SOURCE_DIR}/examples/*/CMakeLists.txt ${PROJECT_SOURCE_DIR}/examples/*/*.c
+  ${PROJECT_SOURCE_DIR}/examples/*/*.cpp ${PROJECT_SOURCE_DIR}/examples/*/*.h ${PROJECT_SOURCE_DIR}/examples/*/*.py)
+foreach(example IN LISTS examples)
+  cmake_path(GET example PARENT_PATH folder)
+  install(FILES ${PROJECT_SOURCE_DIR}/${example}
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/libkestedit-dev/${folder} COMPONENT libkestedit-dev EXCLUDE_FROM_ALL)
+endforeach()
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME kestedit)

@@ -28,7 +28,13 @@ library=$(cd "$(dirname "$(find "$prefix" -name libkestEdit.so)")" && pwd)
 desktop=$(find "$prefix" -name libkestEditDesktop.so)
 export PKG_CONFIG_PATH=$library/pkgconfig
 export LD_LIBRARY_PATH=$library
-if command -v ccache >/dev/null; then export CMAKE_CXX_COMPILER_LAUNCHER=ccache; fi
+# Nothing is left in the user's home or in the project, by the compiler's cache and Python's least of all.
+mkdir "$work/home"
+export HOME=$work/home PYTHONDONTWRITEBYTECODE=1
+unset XDG_CONFIG_HOME XDG_DATA_HOME XDG_CACHE_HOME
+if command -v ccache >/dev/null; then
+    export CMAKE_CXX_COMPILER_LAUNCHER=ccache CCACHE_DIR=${CCACHE_DIR:-$build/ccache}
+fi
 english=$(pkg-config --variable=langdir kestEdit)/english.lng
 
 step "everything is in its place"
@@ -64,8 +70,7 @@ done <"$work/exported"
 step "the program finds its texts, here and in the build tree"
 for program in "$prefix/bin/kestedit" "$build/host/kestedit"; do
     for locale in de_AT.UTF-8 en_GB.UTF-8; do
-        XDG_CONFIG_HOME=$work/config XDG_DATA_HOME=$work/data LC_ALL=$locale \
-            "$program" script new <<<'print cmdCancel.Caption' | head -n 1
+        LC_ALL=$locale "$program" script new <<<'print cmdCancel.Caption' | head -n 1
     done
 done >"$work/captions"
 expect "captions" "$(printf 'cmdCancel.Caption = "%s"\n' Abbrechen Cancel Abbrechen Cancel | tr -d '&')" \
@@ -135,7 +140,7 @@ fi
 
 step "a host with a window of its own"
 if [[ $desktop ]]; then
-    export QT_QPA_PLATFORM=offscreen XDG_CONFIG_HOME=$work/config
+    export QT_QPA_PLATFORM=offscreen
     buildHost "$source_folder/examples/host-qt"
     buildHost "$source_folder/tests/install/user-of-host-qt"
     expect "host-qt" "Job host - New job
