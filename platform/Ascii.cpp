@@ -1,6 +1,10 @@
 #include "platform/Ascii.h"
 
+#include <bit>
+#include <chrono>
 #include <cstring>
+#include <sys/random.h>
+#include <sys/types.h>
 
 namespace kestedit {
 
@@ -30,6 +34,75 @@ void visitWords(std::string_view text, Visit visit) {
     }
 }
 
+/// Eight bytes with the capital letters of ASCII as small ones, and every other byte as it is: bytes that were taken
+/// for one another would let names collide under any key.
+std::uint64_t lowerCaseOf(std::uint64_t word) {
+    constexpr std::uint64_t ones = 0x0101010101010101;
+    constexpr std::uint64_t highBits = 0x80 * ones;
+    const std::uint64_t low = word & ~highBits;
+    const std::uint64_t fromA = low + (0x80 - 'A') * ones;    // the high bit of a byte: not below "A"
+    const std::uint64_t behindZ = low + (0x7F - 'Z') * ones;  // the high bit of a byte: above "Z"
+    return word | (((fromA & ~behindZ & ~word) & highBits) >> 2U);
+}
+
+struct Key {
+    std::uint64_t first;
+    std::uint64_t second;
+};
+
+/// Nobody who writes a file knows it.
+Key keyOfThisProcess() {
+    Key key{};
+    if (::getrandom(&key, sizeof key, 0) == static_cast<ssize_t>(sizeof key)) return key;
+    const auto now = std::chrono::steady_clock::now().time_since_epoch().count();  // a kernel without that call
+    return {static_cast<std::uint64_t>(now), reinterpret_cast<std::uintptr_t>(&key)};
+}
+
+/// SipHash-1-3, the keyed hash that hash tables under foreign names use: without the key nobody finds names that share
+/// a hash, other than by chance.
+class SipHash {
+  public:
+    explicit SipHash(const Key& key)
+        : a_(key.first ^ 0x736f6d6570736575),
+          b_(key.second ^ 0x646f72616e646f6d),
+          c_(key.first ^ 0x6c7967656e657261),
+          d_(key.second ^ 0x7465646279746573) {}
+
+    void add(std::uint64_t word) {
+        d_ ^= word;
+        round();
+        a_ ^= word;
+    }
+
+    /// The words overlap, so names of several lengths may have the same ones.
+    std::uint64_t resultFor(std::uint64_t size) {
+        c_ ^= size ^ 0xFF;
+        round();
+        round();
+        round();
+        return a_ ^ b_ ^ c_ ^ d_;
+    }
+
+  private:
+    void round() {
+        a_ += b_;
+        b_ = std::rotl(b_, 13) ^ a_;
+        a_ = std::rotl(a_, 32);
+        c_ += d_;
+        d_ = std::rotl(d_, 16) ^ c_;
+        a_ += d_;
+        d_ = std::rotl(d_, 21) ^ a_;
+        c_ += b_;
+        b_ = std::rotl(b_, 17) ^ c_;
+        c_ = std::rotl(c_, 32);
+    }
+
+    std::uint64_t a_;
+    std::uint64_t b_;
+    std::uint64_t c_;
+    std::uint64_t d_;
+};
+
 }  // namespace
 
 bool isAscii(std::string_view text) {
@@ -40,15 +113,10 @@ bool isAscii(std::string_view text) {
 }
 
 std::uint32_t hashWithoutCase(std::string_view name) {
-    constexpr std::uint64_t lowerCaseBits = 0x2020202020202020;
-    constexpr std::uint64_t factor = 0x9E3779B97F4A7C15;
-    std::uint64_t hash = name.size();
-    visitWords(name, [&hash](std::uint64_t word) {
-        hash = (hash ^ (word | lowerCaseBits)) * factor;
-        hash ^= hash >> 32U;
-    });
-    // Names often differ in their last characters only, which reach none but the upper bits of the product above.
-    return static_cast<std::uint32_t>((hash * factor) >> 32U);
+    static const Key key = keyOfThisProcess();
+    SipHash hash(key);
+    visitWords(name, [&hash](std::uint64_t word) { hash.add(lowerCaseOf(word)); });
+    return static_cast<std::uint32_t>(hash.resultFor(name.size()));
 }
 
 }  // namespace kestedit

@@ -49,7 +49,7 @@ class KESTEDIT_EXPORT CodePage {
     /// Whether two encoded names are the same.
     [[nodiscard]] bool isSameName(std::string_view left, std::string_view right) const;
 
-    /// A hash of an encoded name, equal for names that are the same.
+    /// A hash of an encoded name, equal for names that are the same. Another process has other hashes.
     [[nodiscard]] std::uint32_t hashOfName(std::string_view name) const;
 
     /// The longest head of `bytes` that is at most `size` bytes long and ends between two characters.

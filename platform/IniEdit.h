@@ -2,13 +2,13 @@
 #pragma once
 
 #include <cstddef>
+#include <map>
 #include <memory>
 #include <span>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 #include <system_error>
-#include <unordered_map>
 #include <vector>
 
 #include "platform/IniText.h"
@@ -73,8 +73,8 @@ class IniEdit {
     std::string texts_;
     std::vector<Replacement> replacements_;
     std::vector<NewLine> newLines_;
-    std::unordered_map<std::string, std::size_t> newSections_;  // folded name -> number, counted on from the base's
-    std::unordered_map<std::string, std::size_t> newKeys_;      // section number and folded name -> index of the line
+    std::map<std::string, std::size_t> newSections_;  // folded name -> number, counted on from the base's
+    std::map<std::string, std::size_t> newKeys_;      // section number and folded name -> index of the line
 };
 
 }  // namespace kestedit

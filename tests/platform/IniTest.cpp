@@ -2,8 +2,10 @@
 #include <array>
 #include <chrono>
 #include <gtest/gtest.h>
+#include <set>
 #include <string>
 #include <thread>
+#include <vector>
 
 #include "platform/IniStore.h"
 #include "tests/platform/TemporaryFolder.h"
@@ -75,6 +77,58 @@ TEST_F(IniRead, namesCompareWithoutCaseInTheWholePage) {
     EXPECT_EQ(valueIn("[s]\n\xC4rger=1", "\u00E4RGER"), "1");
     EXPECT_EQ(valueIn("[s]\n\u00C4rger=1\n\u0416=2", "\u0436", CodePage::utf8), "2");
     EXPECT_EQ(valueIn("[s]\nk=1", "\u0436"), "(none)") << "a name that the page cannot hold is in no file";
+}
+
+TEST_F(IniRead, aHashTellsAllNamesApartThatAreNotTheSame) {
+    const CodePage page;
+    for (int first = 0; first < 256; ++first) {
+        for (int second = first; second < 256; ++second) {
+            const std::string one = "name" + std::string(1, static_cast<char>(first));
+            const std::string other = "name" + std::string(1, static_cast<char>(second));
+            ASSERT_EQ(page.hashOfName(one) == page.hashOfName(other), page.isSameName(one, other))
+                << first << " " << second;
+        }
+    }
+}
+
+TEST_F(Ini, namesMadeToCollideCostNoMoreThanOthers) {
+    // All the same to a hash that takes "@" for the capital of "`", the other names are what a program writes.
+    constexpr std::size_t count = 100'000;
+    std::vector<std::string> made;
+    std::vector<std::string> usual;
+    for (std::size_t i = 0; i < count; ++i) {
+        made.emplace_back();
+        for (std::size_t bit = 0; bit < 17; ++bit)
+            made.back() += (i >> bit & 1) != 0 ? '@' : '`';
+        usual.push_back("ordinary name " + std::to_string(i));
+    }
+    std::set<std::uint32_t> hashes;
+    for (const std::string& name : made)
+        hashes.insert(CodePage().hashOfName(name));
+    ASSERT_GT(hashes.size(), count - 100);
+
+    const auto timeFor = [&](const std::vector<std::string>& names) {
+        std::string bytes;
+        for (const std::string& name : names)
+            bytes.append("[").append(name).append("]\n");
+        bytes += "[S]\n";
+        for (const std::string& name : names)
+            bytes.append(name).append("=1\n");
+        const auto file = folder_.file("names.ini", bytes);
+        const auto start = std::chrono::steady_clock::now();
+        IniStore store;
+        EXPECT_EQ(store.open(file).value("S", names.back()), "1");
+        auto edit = store.edit(file, false);
+        for (std::size_t i = count - 5'000; i < count; ++i) {
+            edit.set("S", names[i], "2");
+            edit.set("T", names[i], "3");
+        }
+        edit.stage(StagedFile::Permissions::keep).commit();
+        EXPECT_EQ(store.open(file).value("T", names.back()), "3");
+        return std::chrono::steady_clock::now() - start;
+    };
+    const auto expected = timeFor(usual);
+    EXPECT_LT(timeFor(made), 10 * expected);
 }
 
 TEST_F(IniRead, readCutsToTheBuffer) {
