@@ -11,6 +11,7 @@
 #include "host/ScriptDriver.h"
 #include "host/ScriptParser.h"
 #include "host/ScriptPrompts.h"
+#include "platform/FileContent.h"
 #include "platform/Posix.h"
 
 namespace kestedit {
@@ -28,6 +29,8 @@ std::string readAll(int descriptor, const std::string& name) {
         const ssize_t count = uninterrupted([&] { return ::read(descriptor, buffer.data(), buffer.size()); });
         if (count < 0) throw systemFailure("read", name);
         if (count == 0) return text;
+        if (text.size() + static_cast<std::size_t>(count) > FileContent::maximumSize)
+            throw systemFailure("read", name, std::make_error_code(std::errc::file_too_large));
         text.append(buffer.data(), static_cast<std::size_t>(count));
     }
 }

@@ -25,6 +25,17 @@ TEST_F(BadInputTest, AJobThatIsNoneIsRefusedAtOnceWithTheReason) {
     }
 }
 
+TEST_F(BadInputTest, AScriptHasTheSizeLimitOfAJob) {
+    fs::resize_file(folder.file("huge", "click cmdSave\n"), std::uintmax_t{200} << 20U);
+    for (const std::string script : {"huge", "- <huge", "- </dev/zero"}) {
+        const auto result = kestedit("script --job-dir . new " + script);
+        EXPECT_EQ(result.err,
+                  "kestedit: read \"" + std::string(script == "huge" ? "huge" : "<stdin>") + "\": File too large\n");
+        EXPECT_EQ(result.code, 1);
+    }
+    EXPECT_EQ(folder.names(), "home huge ");
+}
+
 TEST_F(BadInputTest, ZerosAreAJobWithoutKeysThatOnlyAnAnswerReplaces) {
     const std::string zeros(100'000, '\0');
     const auto file = folder.file("zeros.job", zeros);
