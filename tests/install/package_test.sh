@@ -1,9 +1,11 @@
 #!/usr/bin/env bash
 # Installs the packages on a fresh Debian in a folder of its own, runs the program there, builds the example hosts
-# from what the packages brought, and removes everything again.
+# from what the packages brought, does what the embedding guide says with the packages that it names, and removes
+# everything again.
 #   package_test.sh PACKAGE-FOLDER WORK-FOLDER
 # Exits 77 where it cannot be tried: making such a folder takes root and debootstrap. DEBIAN_MIRROR names another mirror.
 set -euo pipefail
+source_folder=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 packages=$1
 work=$2
 mirror=${DEBIAN_MIRROR:-http://deb.debian.org/debian}
@@ -49,7 +51,10 @@ apt update
 for package in "$packages"/*.deb; do dpkg-deb -f "$package" Depends; done | tr ',' '\n' |
     sed 's/([^)]*)//; s/ //g' | grep -v kestedit | sort -u >"$root.needs"
 mapfile -t needs <"$root.needs"
-apt install --no-install-recommends "${needs[@]}" cmake ninja-build g++ pkg-config python3 qt6-base-dev
+read -ra tools < <(sed -n 's/^    apt install \(cmake .*\)/\1/p' "$source_folder/docs/embedding.md")
+((${#tools[@]})) || fail "docs/embedding.md names no packages for its commands"
+# One of the examples has a window of its own.
+apt install --no-install-recommends "${needs[@]}" "${tools[@]}" qt6-base-dev
 snapshot >"$root.before"
 
 echo "--- installing"
@@ -69,6 +74,13 @@ done
 inside /tmp/host-plain/host-plain /tmp/jobs Day /in /out | grep -qx '/in -> /out' || fail "host-plain does not run"
 inside python3 -B /usr/share/doc/libkestedit-dev/examples/host-python/host.py /tmp/jobs Snake \
     /usr/share/kestedit/lang/english.lng | grep -q 'the job has changed' || fail "host.py does not run"
+
+echo "--- following the embedding guide"
+mkdir "$root/tmp/guide"
+cp "$source_folder/examples/host-python/kestedit.py" "$root/tmp/guide"
+cp "$source_folder/tests/install/run_document.sh" "$root/tmp"
+inside bash /tmp/run_document.sh /usr/share/doc/libkestedit-dev/embedding.md /tmp/guide >>"$root.log" 2>&1 ||
+    { tail -n 20 "$root.log" >&2 && fail "docs/embedding.md is wrong, or names too few packages"; }
 
 echo "--- removing"
 names=()
