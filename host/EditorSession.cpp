@@ -6,6 +6,7 @@
 #include "component/clsEdit.h"
 #include "component/events/PrintedText.h"
 #include "host/LanguageFile.h"
+#include "platform/Posix.h"
 
 namespace kestedit {
 
@@ -51,9 +52,10 @@ void EditorSession::show(ModalRun& driver) {
 std::string EditorSession::jobFolder() const {
     if (options_.jobDir) return *options_.jobDir;
     if (options_.jobFile) return fs::path(*options_.jobFile).parent_path().string();
-    const fs::path folder = userFolders().data;
-    fs::create_directories(folder);
-    return folder.string();
+    const UserFolders user = userFolders();
+    if (const std::error_code error = createUserFolder(user.data))
+        throw systemFailure(user.dataFrom + " is not usable: create folder", user.data, error);
+    return user.data.string();
 }
 
 // The files that come with the program stand in one page, whatever page the user's jobs have.
@@ -67,8 +69,7 @@ std::string EditorSession::settingsFile() const {
     if (options_.settings) return *options_.settings;
     const fs::path folder = userFolders().config;
     // Settings that cannot be kept are no reason to keep the user from a job.
-    std::error_code ignored;
-    fs::create_directories(folder, ignored);
+    static_cast<void>(createUserFolder(folder));
     return (folder / "program.ini").string();
 }
 

@@ -27,10 +27,15 @@ class KESTEDIT_EXPORT UserSettings {
 struct UserFolders {
     std::filesystem::path config;  ///< $XDG_CONFIG_HOME/kestedit or ~/.config/kestedit
     std::filesystem::path data;    ///< $XDG_DATA_HOME/kestedit or ~/.local/share/kestedit
+    std::string dataFrom;          ///< what `data` follows from: "XDG_DATA_HOME", "HOME" or "the account's home folder"
 };
 
 /// A relative or empty XDG variable counts as unset.
 [[nodiscard]] KESTEDIT_EXPORT UserFolders userFolders();
+
+/// Creates a folder of the program's own and what is missing above it, for the user alone, as the base directory rules
+/// ask. One that is there stays as it is.
+[[nodiscard]] KESTEDIT_EXPORT std::error_code createUserFolder(const std::filesystem::path& folder);
 
 /// The user's settings in `file`, usually userFolders().config / "user.ini".
 class KESTEDIT_EXPORT UserSettingsFile final : public UserSettings {

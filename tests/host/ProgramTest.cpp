@@ -68,6 +68,23 @@ TEST_F(ProgramTest, DefaultsAreTheUsersOwnFoldersAndLanguage) {
         EXPECT_TRUE(std::filesystem::exists(home() / file)) << file;
 }
 
+TEST_F(ProgramTest, AHomeThatIsNoneIsNamedAndNotNeededForAJobElsewhere) {
+    const std::tuple<const char*, const char*, const char*> cases[] = {
+        {"HOME=/dev/null", "HOME", "/dev/null/.local/share/kestedit"},
+        {"HOME=/dev/null XDG_DATA_HOME=/dev/null/data", "XDG_DATA_HOME", "/dev/null/data/kestedit"},
+        {"HOME=/dev/null XDG_DATA_HOME=data", "HOME", "/dev/null/.local/share/kestedit"},
+    };
+    for (const auto& [variables, named, path] : cases) {
+        environment = variables;
+        const auto result = kestedit("script new </dev/null");
+        EXPECT_EQ(result.code, 1);
+        EXPECT_EQ(result.err,
+                  "kestedit: <stdin>: "s + named + " is not usable: create folder \"" + path + "\": Not a directory\n");
+    }
+    EXPECT_EQ(script("new", "check chkEditPaths 0\ntype dxName Night\nclick cmdSave\n").code, 0);
+    EXPECT_EQ(folder.names(), "Night.job home ");
+}
+
 TEST(ScriptParser, SplitsLinesIntoWordsAndReadsBackWhatIsPrinted) {
     const auto lines = parseScript(
         "\xEF\xBB\xBF# a byte order mark and a comment\r\n"
