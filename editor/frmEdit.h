@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "editor/JobCharacters.h"
 #include "editor/JobFolders.h"
@@ -141,6 +142,7 @@ class KESTEDIT_EXPORT frmEdit : public FormModel {
     void saveEdited(const std::string& name);
     [[nodiscard]] Answer askForName(Buttons buttons, TextId firstLine);
     [[nodiscard]] bool confirmOverwrite(TextId question);
+    [[nodiscard]] std::vector<JobLine> correctedLines();
     [[nodiscard]] std::string jobPath(const std::string& name) const;
     void close();
 

@@ -77,6 +77,11 @@ void frmEdit::save() {
     close();
 }
 
+std::vector<JobLine> frmEdit::correctedLines() {
+    CorrectValues(*this);
+    return SaveValues(*this, platform_.dates, platform_.clock.now());
+}
+
 void frmEdit::saveNew(const std::string& name) {
     if (name.empty()) {
         (void)askForName(Buttons::ok, TextId::nameMissing);
@@ -86,7 +91,7 @@ void frmEdit::saveNew(const std::string& name) {
     if (platform_.files.FileExists(file) && !confirmOverwrite(TextId::overwriteNew)) {
         return;
     }
-    jobs_.write(file, SaveValues(*this, platform_.dates, platform_.clock.now()), JobStore::Write::create);
+    jobs_.write(file, correctedLines(), JobStore::Write::create);
     values_.JobFile = file;
     close();
 }
@@ -100,19 +105,18 @@ void frmEdit::saveEdited(const std::string& name) {
         return open(dxName);
     }
     if (name == LoadedName) {
-        jobs_.write(values_.JobFile, SaveValues(*this, platform_.dates, platform_.clock.now()),
-                    JobStore::Write::update);
+        jobs_.write(values_.JobFile, correctedLines(), JobStore::Write::update);
         return close();
     }
     const std::string file = jobPath(name);
     if (platform_.files.FileExists(file)) {
         if (!confirmOverwrite(TextId::overwriteEdited)) return;
-        jobs_.write(file, SaveValues(*this, platform_.dates, platform_.clock.now()), JobStore::Write::create);
+        jobs_.write(file, correctedLines(), JobStore::Write::create);
     } else if (!invalidNameCharacters(LoadedName).empty()) {
         // No save gave the old job this name, and it could lead to a file elsewhere: that one stays.
-        jobs_.write(file, SaveValues(*this, platform_.dates, platform_.clock.now()), JobStore::Write::create);
+        jobs_.write(file, correctedLines(), JobStore::Write::create);
     } else {
-        jobs_.rename(jobPath(LoadedName), file, SaveValues(*this, platform_.dates, platform_.clock.now()));
+        jobs_.rename(jobPath(LoadedName), file, correctedLines());
     }
     // What was saved is a job of another name now, which the host has to look for.
     values_.Mode = "New";

@@ -30,6 +30,11 @@ void carry(EditorControl& unit, EditorControl& largerUnit, std::int64_t range) {
     unit.EditValue = value % range;
 }
 
+std::int64_t totalMinutes(const EditorControl& days, const EditorControl& hours, const EditorControl& minutes) {
+    const std::int64_t total = plus(times(days.number(), hoursPerDay), hours.number());
+    return plus(times(total, minutesPerHour), minutes.number());
+}
+
 }  // namespace
 
 DurationEditors runInterval(FormModel& form) {
@@ -45,9 +50,12 @@ void normalise(const DurationEditors& editors) {
     carry(editors.hours, editors.days, hoursPerDay);
 }
 
-std::int64_t totalMinutes(const DurationEditors& editors) {
-    const std::int64_t hours = plus(times(editors.days.number(), hoursPerDay), editors.hours.number());
-    return plus(times(hours, minutesPerHour), editors.minutes.number());
+std::int64_t runIntervalMinutes(const FormModel& form) {
+    return totalMinutes(form.dxDays, form.dxHours, form.dxMinutes);
+}
+
+std::int64_t fileAgeMinutes(const FormModel& form) {
+    return totalMinutes(form.dxAge, form.dxAgeHours, form.dxAgeMinutes);
 }
 
 void showMinutes(const DurationEditors& editors, std::int64_t total) {

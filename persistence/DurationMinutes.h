@@ -21,7 +21,8 @@ struct DurationEditors {
 void normalise(const DurationEditors& editors);
 
 /// The whole duration; stops at the end of the number range. An empty editor counts as 0.
-[[nodiscard]] std::int64_t totalMinutes(const DurationEditors& editors);
+[[nodiscard]] std::int64_t runIntervalMinutes(const FormModel& form);
+[[nodiscard]] std::int64_t fileAgeMinutes(const FormModel& form);
 
 void showMinutes(const DurationEditors& editors, std::int64_t total);
 

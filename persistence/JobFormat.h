@@ -20,7 +20,7 @@ enum class ValueForm : std::uint8_t {
     listPosition,   ///< position of the entry in the pick list, "-1" when none is picked
 
     jobName,           ///< text without the blanks at both ends; the name that the job was loaded under
-    subfolders,        ///< state; without the search in subfolders chkDelEFol is cleared first
+    emptyFolders,      ///< state, "0" without the search in subfolders
     folderStructure,   ///< state, "1" whenever the action synchronises
     writtenOnly,       ///< state of a control that another key loads
     freeSpace,         ///< number, raised to 2000 in the control first

@@ -158,7 +158,7 @@ void loadRow(const Loading& load, const JobRow& row) {
     // clang-format off
     switch (row.form) {
         case state:
-        case subfolders:
+        case emptyFolders:
         case folderStructure:  return loadState(load.control(row), load.field(row));
         case index:
         case extensionIndex:

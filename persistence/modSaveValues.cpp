@@ -1,5 +1,6 @@
 #include "persistence/modSaveValues.h"
 
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -14,7 +15,7 @@ namespace {
 
 // Where the values come from.
 struct Source {
-    FormModel& form;
+    const FormModel& form;
     const DateFormat& dates;
     const LocalTime& now;
 };
@@ -53,14 +54,16 @@ std::string dateText(const Source& from, const EditorControl& control) {
     return date ? from.dates.text(*date) : std::string{};
 }
 
-std::string subfoldersText(FormModel& form) {
-    if (form.chkSubFolder.State == 0 && !form.chkSubFolder.Unread) form.chkDelEFol.State = 0;
-    return stateText(form.chkSubFolder);
+bool deletesNoFolders(const FormModel& form) {
+    return form.chkSubFolder.State == 0 && !form.chkSubFolder.Unread;
 }
 
-std::string freeSpaceText(EditorControl& space) {
-    if (space.number() < leastFreeSpace) space.EditValue = leastFreeSpace;
-    return numberText(space);
+std::string emptyFoldersText(const FormModel& form) {
+    return deletesNoFolders(form) ? "0" : stateText(form.chkDelEFol);
+}
+
+std::string freeSpaceText(const EditorControl& space) {
+    return std::to_string(std::max(space.number(), leastFreeSpace));
 }
 
 std::optional<std::string> renameSchemeText(const EditorControl& list) {
@@ -86,21 +89,19 @@ std::string actionNodeImage(const FormModel& form) {
     return node < nodes.size() ? nodes[node].Image : std::string{};
 }
 
-std::string minutesText(const DurationEditors& editors) {
-    normalise(editors);
-    return std::to_string(totalMinutes(editors));
+std::optional<TimeOfDay> runTime(const EditorControl& editor) {
+    return editor.text() == "1" ? TimeOfDay{0} : editor.time();
 }
 
-std::string runTimeText(EditorControl& editor) {
-    if (editor.text() == "1") editor.EditValue = TimeOfDay{0};
-    const std::optional<TimeOfDay> time = editor.time();
+std::string runTimeText(const EditorControl& editor) {
+    const std::optional<TimeOfDay> time = runTime(editor);
     return time ? timeText(*time) : guarded(editor.text());
 }
 
 // Tells the runner that today's run has been missed, by the day of the last one.
 std::optional<std::string> intervalStateText(const Source& from) {
-    const std::optional<TimeOfDay> runTime = from.form.dxDateTime.time();
-    if (!runTime || from.now.time <= *runTime) return std::nullopt;
+    const std::optional<TimeOfDay> time = runTime(from.form.dxDateTime);
+    if (!time || from.now.time <= *time) return std::nullopt;
     return from.dates.text(addDays(from.now.date, -1));
 }
 
@@ -118,7 +119,7 @@ std::optional<std::string> unreadOf(const FormModel& form, const JobRow& row) {
 // Nothing for a row that is left out of the file.
 std::optional<std::string> valueOf(const Source& from, const JobRow& row) {
     using enum ValueForm;
-    FormModel& form = from.form;
+    const FormModel& form = from.form;
     if (auto unread = unreadOf(form, row)) return unread;
     // clang-format off
     switch (row.form) {
@@ -134,7 +135,7 @@ std::optional<std::string> valueOf(const Source& from, const JobRow& row) {
         case startDate:        return dateText(from, form.at(row.control));
         case listPosition:     return std::to_string(form.at(row.control).ItemIndex);
         case jobName:          return guarded(std::string{trimBlanks(form.dxName.text())});
-        case subfolders:       return subfoldersText(form);
+        case emptyFolders:     return emptyFoldersText(form);
         case folderStructure:  return form.optAction[Action::synchronise].isSet() ? "1" : stateText(form.chkFStruct);
         case freeSpace:        return freeSpaceText(form.dxFreeSpace);
         case zero:             return "0";
@@ -145,9 +146,9 @@ std::optional<std::string> valueOf(const Source& from, const JobRow& row) {
         case comment:          return guarded(storedComment(form));
         case nodeIcon:         return guarded(actionNodeImage(form));
         case compressionLevel: return std::to_string(form.CompressionLevel);
-        case ageMinutes:       return minutesText(fileAge(form));
+        case ageMinutes:       return std::to_string(fileAgeMinutes(form));
         case interval:
-        case intervalCopy:     return minutesText(runInterval(form));
+        case intervalCopy:     return std::to_string(runIntervalMinutes(form));
         case intervalDate:     return from.dates.text(form.dxDate.date().value_or(from.now.date));
         case timeOfDay:        return runTimeText(form.dxDateTime);
         case intervalState:    return intervalStateText(from);
@@ -167,7 +168,16 @@ std::string storedComment(const FormModel& form) {
     return withCarets(form.dxComment.text());
 }
 
-std::vector<JobLine> SaveValues(FormModel& form, const DateFormat& dates, const LocalTime& now, bool skipComment) {
+void CorrectValues(FormModel& form) {
+    if (deletesNoFolders(form)) form.chkDelEFol.State = 0;
+    if (form.dxFreeSpace.number() < leastFreeSpace) form.dxFreeSpace.EditValue = leastFreeSpace;
+    normalise(fileAge(form));
+    normalise(runInterval(form));
+    if (const auto time = runTime(form.dxDateTime)) form.dxDateTime.EditValue = *time;
+}
+
+std::vector<JobLine> SaveValues(const FormModel& form, const DateFormat& dates, const LocalTime& now,
+                                bool skipComment) {
     const Source from{form, dates, now};
     std::vector<JobLine> lines;
     lines.reserve(jobFormat().size() + 1);

@@ -19,10 +19,13 @@ inline constexpr std::size_t mostShownOfComment = 255;
 /// The notes as the line that the file holds: "^" for every line break.
 [[nodiscard]] std::string storedComment(const FormModel& form);
 
-/// All lines of a save, in file order. Corrects the form on the way, so that it shows what was written: folders are not
-/// deleted without the search in subfolders, the free space is raised to 2000, minutes and hours above their range are
-/// carried into hours and days. With `skipComment` the keys "Comment" and "NodeIcon" are left out.
-[[nodiscard]] std::vector<JobLine> SaveValues(FormModel& form, const DateFormat& dates, const LocalTime& now,
+/// Makes the form show what a save writes: folders are not deleted without the search in subfolders, the free space is
+/// raised to 2000, minutes and hours above their range are carried into hours and days.
+void CorrectValues(FormModel& form);
+
+/// All lines of a save, in file order; the same before and after CorrectValues. With `skipComment` the keys "Comment"
+/// and "NodeIcon" are left out.
+[[nodiscard]] std::vector<JobLine> SaveValues(const FormModel& form, const DateFormat& dates, const LocalTime& now,
                                               bool skipComment = false);
 
 }  // namespace kestedit

@@ -80,7 +80,7 @@ std::string valueOf(const FormModel& form, const JobRow& row) {
     using enum ValueForm;
     switch (row.form) {
         case state:
-        case subfolders:
+        case emptyFolders:
         case folderStructure:
         case writtenOnly:
             return "state";

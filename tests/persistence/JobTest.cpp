@@ -1,4 +1,5 @@
 // The way of a form into a job file and back.
+#include <algorithm>
 #include <array>
 #include <limits>
 #include <map>
@@ -25,7 +26,11 @@ struct JobTest : test::EditorTest {
     void save() { JobStore{ini}.write(jobFile("a"), SaveValues(form(), dates, now), JobStore::Write::create); }
     /// What a save writes for a key; "(none)" without the key.
     std::string saved(std::string_view key) {
-        for (const JobLine& line : SaveValues(form(), dates, now))
+        const auto before = SaveValues(form(), dates, now);
+        CorrectValues(form());
+        const auto lines = SaveValues(form(), dates, now);
+        EXPECT_TRUE(std::ranges::equal(before, lines, {}, &JobLine::value, &JobLine::value)) << "known before as well";
+        for (const JobLine& line : lines)
             if (line.key == key) return line.value;
         return "(none)";
     }
