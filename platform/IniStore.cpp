@@ -49,7 +49,8 @@ struct IniStore::Snapshot::Impl {
 };
 
 struct IniStore::Edit::Impl {
-    fs::path target;
+    fs::path file;
+    SharedText base;
     IniEdit edit;
     std::optional<CodePage> told;  // by which the page is recognised when the file is read again
 };
@@ -131,7 +132,8 @@ SharedText IniStore::Impl::baseOf(const fs::path& file, bool startEmpty, Page re
 IniStore::Edit IniStore::edit(const fs::path& file, bool startEmpty, Page page) {
     std::optional<CodePage> told;
     if (page == Page::recognised) told = impl_->files.pageOf(file);
-    return Edit(std::make_unique<Edit::Impl>(Edit::Impl{file, IniEdit(impl_->baseOf(file, startEmpty, page)), told}));
+    SharedText base = impl_->baseOf(file, startEmpty, page);
+    return Edit(std::make_unique<Edit::Impl>(Edit::Impl{file, base, IniEdit(base), told}));
 }
 
 IniStore::Edit IniStore::editAsUtf8(const fs::path& file, bool startEmpty) {
@@ -146,7 +148,7 @@ IniStore::Edit IniStore::editAsUtf8(const fs::path& file, bool startEmpty) {
         base = std::make_shared<const IniText>(std::move(*converted));
     }
     const CodePage& told = impl_->files.pageOf(file);
-    return Edit(std::make_unique<Edit::Impl>(Edit::Impl{file, IniEdit(std::move(base)), told}));
+    return Edit(std::make_unique<Edit::Impl>(Edit::Impl{file, base, IniEdit(base), told}));
 }
 
 IniStore::Snapshot::Snapshot(std::unique_ptr<Impl> impl) : impl_(std::move(impl)) {}
@@ -181,12 +183,19 @@ void IniStore::Edit::set(std::string_view section, std::string_view key, std::st
     impl_->edit.set(section, key, value);
 }
 
-StagedFile IniStore::Edit::stage(StagedFile::Permissions permissions) const {
+IniStore::Snapshot IniStore::Edit::base() const {
+    return Snapshot(std::make_unique<Snapshot::Impl>(Snapshot::Impl{impl_->base}));
+}
+
+StagedFile IniStore::Edit::stage(const StagedFile::Access& access) const {
+    return stage(access, impl_->file);
+}
+
+StagedFile IniStore::Edit::stage(const StagedFile::Access& access, const fs::path& target) const {
     if (impl_->told && !impl_->edit.readsBack(*impl_->told)) {
-        throw systemFailure("keep all characters in", impl_->target,
-                            std::make_error_code(std::errc::illegal_byte_sequence));
+        throw systemFailure("keep all characters in", target, std::make_error_code(std::errc::illegal_byte_sequence));
     }
-    return {impl_->target, std::span<const std::string_view>(impl_->edit.pieces()), permissions};
+    return {target, std::span<const std::string_view>(impl_->edit.pieces()), access};
 }
 
 }  // namespace kestedit

@@ -125,9 +125,14 @@ class KESTEDIT_EXPORT IniStore::Edit {
     /// cannot hold a text.
     void set(std::string_view section, std::string_view key, std::string_view value);
 
-    /// Writes and syncs the whole content to a temporary file beside the target. Throws std::system_error, also when a
-    /// file whose page is recognised would be taken for one of another page and the texts that were set for others.
-    [[nodiscard]] StagedFile stage(StagedFile::Permissions permissions) const;
+    /// What the file held when the edit began; the same whatever is set.
+    [[nodiscard]] Snapshot base() const;
+
+    /// Writes and syncs the whole content to a temporary file beside the file, or beside `target`, whose place it is to
+    /// take then. Throws std::system_error, also when a file whose page is recognised would be taken for one of another
+    /// page and the texts that were set for others.
+    [[nodiscard]] StagedFile stage(const StagedFile::Access& access) const;
+    [[nodiscard]] StagedFile stage(const StagedFile::Access& access, const std::filesystem::path& target) const;
 
   private:
     friend class IniStore;

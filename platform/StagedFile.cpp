@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <fcntl.h>
+#include <new>
 #include <optional>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -66,6 +67,27 @@ void deleteFile(const fs::path& file) {
     if (uninterrupted([&] { return ::unlink(file.c_str()); }) != 0) throw systemFailure("delete", file);
 }
 
+SavedNames namesOf(const fs::path& target, const fs::path& former) {
+    return {target.filename(), former.filename()};
+}
+
+/// The regular file that `path` leads to; nothing when it leads to none.
+std::optional<struct stat> fileBehind(const fs::path& path) {
+    struct stat status {};
+    const bool found = !path.empty() && ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
+    return found ? std::optional{status} : std::nullopt;
+}
+
+mode_t modeOf(const std::optional<struct stat>& existing, const std::optional<struct stat>& former, bool secret) {
+    constexpr mode_t everyone = 0666;
+    constexpr mode_t owner = 0600;
+    constexpr mode_t permissions = 07777;
+    if (!existing && !former) return secret ? owner : everyone;
+    mode_t mode = (existing ? existing : former)->st_mode & permissions;
+    if (secret) mode &= former ? former->st_mode : owner;
+    return mode | ownerMayWrite;
+}
+
 /// Whether both names lead to one file. Unknown counts as yes, so that nobody deletes what might be the only name.
 bool mayBeOneFile(const fs::path& left, const fs::path& right) {
     struct stat leftStatus {};
@@ -76,25 +98,28 @@ bool mayBeOneFile(const fs::path& left, const fs::path& right) {
 
 }  // namespace
 
-StagedFile::StagedFile(fs::path target, std::string_view bytes, Permissions permissions)
-    : StagedFile(std::move(target), std::span<const std::string_view>(&bytes, 1), permissions) {}
+StagedFile::StagedFile(fs::path target, std::string_view bytes, const Access& access)
+    : StagedFile(std::move(target), std::span<const std::string_view>(&bytes, 1), access) {}
 
-StagedFile::StagedFile(fs::path target, std::span<const std::string_view> pieces, Permissions permissions)
+StagedFile::StagedFile(fs::path target, std::span<const std::string_view> pieces, const Access& access)
     : target_(std::move(target)) {
     std::optional<struct stat> existing;
     place_ = behindLinks(target_, existing);
-    mode_t mode = 0666;
     if (existing) {
         requireRegularFile(*existing, "replace", place_);
-        if (permissions == Permissions::keep) requireWritable(*existing, place_);
-        mode = (existing->st_mode & 07777U) | ownerMayWrite;
+        if (access.permissions == Permissions::keep) requireWritable(*existing, place_);
     }
-    temporary_ = writeTemporaryFile(place_, pieces, mode, existing ? &*existing : nullptr);
+    const auto former = access.former == target_ ? existing : fileBehind(access.former);
+    const std::optional<struct stat>& model = existing ? existing : former;
+    former_ = access.former.empty() ? place_ : access.former;
+    temporary_ = writeTemporaryFile(place_, namesOf(place_, former_), pieces, modeOf(existing, former, access.secret),
+                                    model ? &*model : nullptr);
 }
 
 StagedFile::StagedFile(StagedFile&& other) noexcept
     : target_(std::move(other.target_)),
       place_(std::move(other.place_)),
+      former_(std::move(other.former_)),
       temporary_(std::exchange(other.temporary_, fs::path{})) {}
 
 StagedFile& StagedFile::operator=(StagedFile&& other) noexcept {
@@ -102,6 +127,7 @@ StagedFile& StagedFile::operator=(StagedFile&& other) noexcept {
         discard();
         target_ = std::move(other.target_);
         place_ = std::move(other.place_);
+        former_ = std::move(other.former_);
         temporary_ = std::exchange(other.temporary_, fs::path{});
     }
     return *this;
@@ -120,7 +146,17 @@ void StagedFile::discard() noexcept {
 void StagedFile::commit() {
     moveFile(temporary_, place_);
     temporary_.clear();
-    syncFolder(folderOf(place_));
+    settle(folderOf(place_));
+}
+
+/// The save is done: what is left to do may fail.
+void StagedFile::settle(const fs::path& folder) const noexcept {
+    syncFolder(folder);
+    try {
+        removeLeftovers(folder, namesOf(place_, former_));
+    } catch (const std::bad_alloc&) {
+        // The next save removes them.
+    }
 }
 
 void StagedFile::commitReplacing(const fs::path& formerTarget) {
@@ -142,6 +178,8 @@ void StagedFile::commitReplacing(const fs::path& formerTarget) {
         moveFile(formerTarget, target_);
         commit();
         if (!mayBeOneFile(formerTarget, target_)) deleteFile(formerTarget);
+    } else if (place_ != target_ && mayBeOneFile(formerTarget, place_)) {
+        commit();  // the target is a link to the former file, which holds the job from now on
     } else {
         commit();
         deleteFile(formerTarget);

@@ -1,8 +1,5 @@
 #include "platform/TemporaryFile.h"
 
-#include <atomic>
-#include <chrono>
-#include <cstdint>
 #include <fcntl.h>
 #include <string>
 #include <unistd.h>
@@ -13,17 +10,10 @@ namespace kestedit {
 
 namespace {
 
-/// A name that no other process and no other call of this one picks, but for a leftover of a crashed run.
-std::string freshName() {
-    static std::atomic<std::uint64_t> counter{
-        static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count())};
-    return ".kestedit-" + std::to_string(::getpid()) + '-' + std::to_string(counter.fetch_add(1)) + ".tmp";
-}
-
-int createFile(const std::filesystem::path& folder, mode_t mode, std::filesystem::path& path) {
+int createFile(const std::filesystem::path& folder, const SavedNames& names, mode_t mode, std::filesystem::path& path) {
     int number = -1;
     do {
-        path = folder / freshName();
+        path = folder / freshTemporaryName(names);
         number = openFile(path, O_WRONLY | O_CREAT | O_EXCL, mode);
     } while (number < 0 && errno == EEXIST);
     return number;
@@ -73,10 +63,11 @@ void writePieces(int file, std::span<const std::string_view> pieces, const std::
 
 }  // namespace
 
-std::filesystem::path writeTemporaryFile(const std::filesystem::path& target, std::span<const std::string_view> pieces,
-                                         mode_t mode, const struct stat* model) {
+std::filesystem::path writeTemporaryFile(const std::filesystem::path& target, const SavedNames& names,
+                                         std::span<const std::string_view> pieces, mode_t mode,
+                                         const struct stat* model) {
     std::filesystem::path path;
-    FileDescriptor file(createFile(target.parent_path(), mode, path));
+    FileDescriptor file(createFile(target.parent_path(), names, mode, path));
     if (!file.isOpen()) throw systemFailure("create", target);
     try {
         if (model != nullptr) takeAfter(file.number(), *model, mode, target);

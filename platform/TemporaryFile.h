@@ -6,13 +6,15 @@
 #include <string_view>
 #include <sys/stat.h>
 
+#include "platform/TemporaryName.h"
+
 namespace kestedit {
 
-/// Creates a file of a name of its own beside `target`, with the permissions `mode` and, when `model` is given, the
-/// owner and group of that file where the process may set them. Writes `pieces` one behind the other and syncs the
-/// file. Returns its path. Throws std::system_error, which names the target, the one of both that users know; no file
-/// is left then.
-[[nodiscard]] std::filesystem::path writeTemporaryFile(const std::filesystem::path& target,
+/// Creates a file of a name of its own, which tells `names`, beside `target`, with the permissions `mode` and, when
+/// `model` is given, the owner and group of that file where the process may set them. Writes `pieces` one behind the
+/// other and syncs the file. Returns its path. Throws std::system_error, which names the target, the one of both that
+/// users know; no file is left then.
+[[nodiscard]] std::filesystem::path writeTemporaryFile(const std::filesystem::path& target, const SavedNames& names,
                                                        std::span<const std::string_view> pieces, mode_t mode,
                                                        const struct stat* model);
 

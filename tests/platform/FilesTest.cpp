@@ -5,10 +5,12 @@
 #include <gtest/gtest.h>
 #include <string>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <system_error>
 #include <thread>
 #include <unistd.h>
 #include <utility>
+#include <vector>
 
 #include "platform/DataFolder.h"
 #include "platform/FileSystem.h"
@@ -83,6 +85,8 @@ TEST_F(Files, userSettingsCreateFolderAndFile) {
     EXPECT_EQ(settings.read("Options", "BGColor", "none"), "none");
     EXPECT_FALSE(settings.write("Options", "BGColor", "\u20AC \u0416"));
     EXPECT_EQ(settings.read("options", "bgcolor", "none"), "\u20AC \u0416");
+    for (const char* made : {"a", "a/b"})
+        EXPECT_EQ(fs::status(folder_.path() / made).permissions(), fs::perms{0700}) << made;
     EXPECT_EQ(UserSettingsFile(folder_.file("file", "") / "b" / "user.ini").write("S", "k", "v"),
               std::errc::not_a_directory);
 }
@@ -134,6 +138,90 @@ TEST_F(StagedFiles, permissionsAndOwnerAreKept) {
     EXPECT_EQ(status.st_mode & 07777U, 02754U);
 }
 
+TEST_F(StagedFiles, aFileTakesAfterTheOneThatHeldItsContentAndSecretsReachNobodyNew) {
+    const fs::path former = folder_.path() / "former";
+    const mode_t mask = umask(022);
+    constexpr unsigned none = 0;
+    struct Row {
+        bool secret;
+        unsigned former, existing, expected;
+    };
+    for (const Row& row : {Row{false, none, none, 0644}, Row{true, none, none, 0600}, Row{false, 0600, none, 0600},
+                           Row{false, 0464, none, 0664}, Row{true, 0644, none, 0644}, Row{false, 0600, 0644, 0644},
+                           Row{true, 0640, 0664, 0640}, Row{true, none, 0664, 0600}}) {
+        for (const auto& [path, mode] : {std::pair{former, row.former}, {target_, row.existing}}) {
+            fs::remove(path);
+            if (mode != none) fs::permissions(folder_.file(path.filename(), ""), fs::perms{mode});
+        }
+        StagedFile(target_, "new", {makeNormal, row.secret, row.former == none ? fs::path{} : former}).commit();
+        EXPECT_EQ(fs::status(target_).permissions(), fs::perms{row.expected})
+            << row.secret << std::oct << " " << row.former << " " << row.existing;
+    }
+    StagedFile(target_, "new", {makeNormal, true, target_}).commit();
+    EXPECT_EQ(fs::status(target_).permissions(), fs::perms{0600}) << "a file that gets a secret keeps its permissions";
+    fs::permissions(target_, fs::perms{0664});
+    StagedFile(target_, "new", {makeNormal, true, target_}).commit();
+    EXPECT_EQ(fs::status(target_).permissions(), fs::perms{0664});
+    umask(mask);
+
+    if (::chown(folder_.file("former", "").c_str(), 1234, 4321) != 0) GTEST_SKIP() << "only root can give files away";
+    StagedFile(folder_.path() / "renamed", "new", {makeNormal, false, former}).commitReplacing(former);
+    struct stat status {};
+    ASSERT_EQ(::stat((folder_.path() / "renamed").c_str(), &status), 0);
+    EXPECT_EQ(status.st_uid, 1234U);
+    EXPECT_EQ(status.st_gid, 4321U);
+}
+
+/// The hidden files in the folder.
+std::vector<fs::path> hiddenIn(const fs::path& folder) {
+    std::vector<fs::path> hidden;
+    for (const auto& entry : fs::directory_iterator(folder))
+        if (entry.path().filename().string().starts_with(".kestedit-")) hidden.push_back(entry.path());
+    return hidden;
+}
+
+TEST_F(StagedFiles, whatAKilledSaveLeftGoesWithTheNextSaveOfTheSameFile) {
+    const auto leave = [&](const std::string& target, const std::string& former) {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            const StagedFile killed(folder_.path() / target, "", {keep, false, folder_.path() / former});
+            ::_exit(0);
+        }
+        ASSERT_EQ(::waitpid(child, nullptr, 0), child);
+    };
+    const auto save = [&](const std::string& target, const std::string& former) {
+        StagedFile(folder_.path() / target, "new", {keep, false, folder_.path() / former}).commit();
+        return hiddenIn(folder_.path()).size();
+    };
+    leave("job", "job");
+    leave("other", "other");
+    EXPECT_EQ(hiddenIn(folder_.path()).size(), 2U);
+    EXPECT_EQ(save("job", "job"), 1U) << "the other job's stays";
+    EXPECT_EQ(save("other", "other"), 0U);
+    // A rename that was killed concerns both names, and one that is made does.
+    for (const char* left : {"job", "renamed"}) {
+        leave("renamed", "job");
+        EXPECT_EQ(save(left, left), 0U) << left;
+    }
+    leave("job", "job");
+    EXPECT_EQ(save("renamed", "job"), 0U);
+
+    StagedFile running(target_, "", keep);
+    EXPECT_EQ(save("job", "job"), 1U) << "this process lives";
+    running = StagedFile(target_, "last", keep);
+    // One of another machine may live, unless it has not been touched for long.
+    leave("job", "job");
+    running.commit();
+    leave("job", "job");
+    const fs::path ours = hiddenIn(folder_.path()).at(0);
+    std::string elsewhere = ours.filename();
+    elsewhere.replace(elsewhere.find('-', 30) - 8, 8, "00000000");
+    fs::rename(ours, folder_.path() / elsewhere);
+    EXPECT_EQ(save("job", "job"), 1U);
+    fs::last_write_time(folder_.path() / elsewhere, fs::file_time_type::clock::now() - 25h);
+    EXPECT_EQ(save("job", "job"), 0U);
+}
+
 TEST_F(StagedFiles, linksStayAndTheFileBehindThemIsReplaced) {
     fs::create_directory(folder_.path() / "real");
     folder_.file("real/file", "old");
@@ -175,6 +263,12 @@ TEST_F(StagedFiles, replacingLeavesTheTargetAlone) {
     replace(former);
     fs::rename(target_, former);
     replace(former);
+
+    folder_.file("former", "old");
+    fs::remove(target_);
+    fs::create_symlink("former", target_);
+    StagedFile(target_, "new", keep).commitReplacing(former);
+    EXPECT_EQ(bytesOf(target_), "new") << "a link to the former file is no other place";
 }
 
 }  // namespace
