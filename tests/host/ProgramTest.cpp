@@ -60,12 +60,37 @@ TEST_F(ProgramTest, IniReadsAndWritesOneKey) {
     EXPECT_EQ(kestedit("ini get u.ini S k --code-page 65001").out, "字\n");
 }
 
+TEST_F(ProgramTest, AJobOfAnotherFolderThanThatOfTheJobsIsRefused) {
+    namespace fs = std::filesystem;
+    for (const std::string name : {"a", "b"}) {
+        fs::create_directory(folder.path() / name);
+        static_cast<void>(folder.file(name + "/x.job", "[Job]\nName=x\nFrom=/" + name + "\n"));
+    }
+    fs::create_directory_symlink("a", folder.path() / "link");
+    fs::create_symlink("../a/x.job", folder.path() / "b/y.job");
+    static_cast<void>(folder.file("script", "print dxSource.EditValue\nclick cmdSave\n"));
+    for (const std::string job : {"b/x.job", "a/../b/x.job", "b/y.job", "x.job", "none/x.job"}) {
+        for (const std::string& command : {"script --job-dir a edit " + job + " script", "edit --job-dir a " + job}) {
+            const auto refused = kestedit(command);
+            EXPECT_EQ(refused.code, 2) << command;
+            EXPECT_EQ(refused.out, "") << command;
+            EXPECT_EQ(refused.err, "kestedit: \"" + job + "\" does not lie in the folder of --job-dir, \"a\"\n");
+        }
+    }
+    EXPECT_EQ(test::bytesOf(folder.path() / "b/x.job"), "[Job]\nName=x\nFrom=/b\n");
+    for (const std::string job : {"--job-dir a edit a/x.job", "--job-dir \"$PWD/a\" edit link/x.job",
+                                  "--job-dir b/../link edit ./a/x.job", "edit a/x.job"})
+        EXPECT_EQ(kestedit("script " + job + " script").out, "dxSource.EditValue = \"/a\"\nevent SetNewValues \"\"\n");
+}
+
 TEST_F(ProgramTest, DefaultsAreTheUsersOwnFoldersAndLanguage) {
     static_cast<void>(
         folder.file("a.script", "check chkEditPaths 0\ntype dxName Night\nprint cmdCancel.Caption\nclick cmdSave\n"));
     EXPECT_EQ(kestedit("script new <a.script").out, "cmdCancel.Caption = \"&Cancel\"\nevent SearchJobs\n");
     for (const char* file : {".local/share/kestedit/Night.job", ".config/kestedit/program.ini"})
         EXPECT_TRUE(std::filesystem::exists(home() / file)) << file;
+    for (const char* made : {".local", ".local/share/kestedit", ".config", ".config/kestedit"})
+        EXPECT_EQ(std::filesystem::status(home() / made).permissions(), std::filesystem::perms{0700}) << made;
 }
 
 TEST_F(ProgramTest, AHomeThatIsNoneIsNamedAndNotNeededForAJobElsewhere) {
