@@ -40,10 +40,9 @@ class JobFolder {
 };
 
 void loadInto(FormModel& form, const JobStore& jobs, const fs::path& file) {
-    const auto job = jobs.read(file);
-    if (!job) throw std::runtime_error("no job in " + file.string());
-    GetAction(form, *job);
-    GetValues(form, *job, job->field("Comment").value_or(""), dates, now.date);
+    const JobRecord job = jobs.read(file);
+    GetAction(form, job);
+    GetValues(form, job, job.field("Comment").value_or(""), dates, now.date);
 }
 
 /// A form with the texts of a language, and with the values of a job.
@@ -97,7 +96,7 @@ void saveJob(benchmark::State& state) {
     IniStore ini;
     const JobStore jobs{ini};
     for (auto _ : state)
-        jobs.write(file, SaveValues(form, dates, now), JobStore::Write::update);
+        jobs.change(file).save(SaveValues(form, dates, now));
 }
 BENCHMARK(saveJob)->UseRealTime();
 

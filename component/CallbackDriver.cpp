@@ -69,6 +69,7 @@ constexpr auto boxAnswers = std::to_array<BoxAnswers>({
     {Buttons::ok,                  KESTEDIT_BUTTONS_OK,                    Answer::ok,     {Answer::ok}},
     {Buttons::yesNo,               KESTEDIT_BUTTONS_YES_NO,                Answer::no,     {Answer::yes, Answer::no}},
     {Buttons::cancelRetryContinue, KESTEDIT_BUTTONS_CANCEL_RETRY_CONTINUE, Answer::cancel, {Answer::cancel, Answer::retry, Answer::proceed}},
+    {Buttons::yesNoCancel,         KESTEDIT_BUTTONS_YES_NO_CANCEL,         Answer::cancel, {Answer::yes, Answer::no, Answer::cancel}},
 });
 
 // In the order of kestEdit_Answer.

@@ -100,7 +100,8 @@ KESTEDIT_API kestEdit_Result kestEdit_show(kestEdit_Handle editor, int32_t view_
 typedef enum kestEdit_Buttons {
     KESTEDIT_BUTTONS_OK = 0,
     KESTEDIT_BUTTONS_YES_NO = 1,
-    KESTEDIT_BUTTONS_CANCEL_RETRY_CONTINUE = 2
+    KESTEDIT_BUTTONS_CANCEL_RETRY_CONTINUE = 2,
+    KESTEDIT_BUTTONS_YES_NO_CANCEL = 3
 } kestEdit_Buttons;
 
 typedef enum kestEdit_Answer {

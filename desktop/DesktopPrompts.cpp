@@ -29,6 +29,8 @@ constexpr std::array yesNoChoices{Choice{QMessageBox::Yes, Answer::yes}, Choice{
 constexpr std::array retryChoices{Choice{QMessageBox::Retry, Answer::retry},
                                   Choice{QMessageBox::Ignore, Answer::proceed},
                                   Choice{QMessageBox::Cancel, Answer::cancel}};
+constexpr std::array yesNoCancelChoices{Choice{QMessageBox::Yes, Answer::yes}, Choice{QMessageBox::No, Answer::no},
+                                        Choice{QMessageBox::Cancel, Answer::cancel}};
 
 std::span<const Choice> choicesOf(Buttons buttons) {
     switch (buttons) {
@@ -36,6 +38,8 @@ std::span<const Choice> choicesOf(Buttons buttons) {
             return okChoices;
         case Buttons::yesNo:
             return yesNoChoices;
+        case Buttons::yesNoCancel:
+            return yesNoCancelChoices;
         case Buttons::cancelRetryContinue:
             break;
     }

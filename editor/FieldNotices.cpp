@@ -61,6 +61,14 @@ Noticed required(const FormModel& form, const EditorControl& field) {
     return when(row->active(form) && field.isEmpty(), TextId::textMissing);
 }
 
+Noticed unreadJob(const FormModel& form) {
+    return form.LoadProblem.empty() ? std::nullopt : Noticed{{TextId::jobUnreadable, {form.LoadProblem}}};
+}
+
+Noticed password(const FormModel&) {
+    return Notice{TextId::passwordReadable};
+}
+
 Noticed jobName(const FormModel& form) {
     const std::string characters = invalidNameCharacters(form.dxName.text());
     return characters.empty() ? std::nullopt : Noticed{{TextId::nameInvalid, {spaced(characters)}}};
@@ -148,6 +156,7 @@ using F = FormModel;
 // clang-format off
 constexpr auto noticeRules = std::to_array<NoticeRule>({
     {"dxName",            atOnce,   jobName},
+    {"dxName",            atOnce,   unreadJob},
     {"dxComment",         atOnce,   notes},
     {"optAction(0)",      atOnce,   action},
     {"chkPreview",        atOnce,   hiddenSchedule},
@@ -172,6 +181,8 @@ constexpr auto noticeRules = std::to_array<NoticeRule>({
     {"dxSize",            whenLeft, [](const F& form) { return when(!form.optSize[SizeLimit::any].isSet() && form.dxSize.isEmpty(), TextId::sizeMissing); }},
     {"dxAge",             whenLeft, [](const F& form) { return when(isAgeZero(form), TextId::ageZero); }},
     {"dxDateTo",          whenLeft, [](const F& form) { return when(areDatesReversed(form), TextId::datesReversed); }},
+    {"dxZipPwd",          atOnce,   password},
+    {"dxDestZipPwd",      atOnce,   password},
     {"dxRenamer",         atOnce,   [](const F& form) { return dropped(form, form.dxRenamer, TextId::droppedFromRenamer); }},
     {"dxRenamer",         whenLeft, [](const F& form) { return required(form, form.dxRenamer); }},
 });

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 #include <charconv>
+#include <stdexcept>
 #include <string>
 
 #include "editor/FieldNotices.h"
@@ -19,6 +20,7 @@
 #include "i18n/PickLists.h"
 #include "i18n/modMessages.h"
 #include "persistence/modGetValues.h"
+#include "persistence/modSaveValues.h"
 
 namespace kestedit {
 
@@ -88,6 +90,7 @@ void frmEdit::Load() {
     focus(dxName);
     SetTabOrder(*this);
     refreshNotices();
+    if (opened_) opened_->untouched = SaveValues(*this, platform_.dates, platform_.clock.now());
     loading_ = false;
 }
 
@@ -120,13 +123,18 @@ void frmEdit::loadByMode() {
 // The action comes first and its rule with it, so that the values that the job stores behind it stand.
 void frmEdit::loadJob() {
     const std::string file = platform_.files.BuildPath(values_.JobDir, platform_.files.GetFileName(values_.JobFile));
-    const auto job = jobs_.read(file);
-    if (!job) return;
-    characters_.loaded(*job);
-    GetAction(*this, *job);
+    try {
+        opened_ = OpenedJob{file, jobs_.read(file), {}};
+    } catch (const std::runtime_error& failure) {
+        LoadProblem = failure.what();
+        return;
+    }
+    const JobRecord& job = opened_->stored;
+    characters_.loaded(job);
+    GetAction(*this, job);
     ApplyAction(*this);
     const std::string comment = ini_.ReadIniFileValue("Job", "Comment", "", values_.JobFile, textSize);
-    GetValues(*this, *job, comment, platform_.dates, platform_.clock.now().date);
+    GetValues(*this, job, comment, platform_.dates, platform_.clock.now().date);
     ApplyLoadedChoices(*this);
     if (DateFormatChanged) tellDateChange();
 }

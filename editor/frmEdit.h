@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <functional>
 #include <initializer_list>
 #include <optional>
@@ -24,6 +25,7 @@
 namespace kestedit {
 
 enum class PathFinding;
+struct BothChanged;
 
 /// An event that no user could cause: its control is disabled, hidden, read-only or of another kind, or its window has
 /// closed.
@@ -142,7 +144,9 @@ class KESTEDIT_EXPORT frmEdit : public FormModel {
     void saveEdited(const std::string& name);
     [[nodiscard]] Answer askForName(Buttons buttons, TextId firstLine);
     [[nodiscard]] bool confirmOverwrite(TextId question);
-    [[nodiscard]] std::vector<JobLine> correctedLines();
+    void create(const std::string& file);
+    [[nodiscard]] bool saveOpened(const std::filesystem::path& target);
+    [[nodiscard]] Answer askWhoseValues(const std::vector<BothChanged>& keys);
     [[nodiscard]] std::string jobPath(const std::string& name) const;
     void close();
 
@@ -151,6 +155,7 @@ class KESTEDIT_EXPORT frmEdit : public FormModel {
     modIniHandler ini_;
     JobStore jobs_;
     JobCharacters characters_;
+    std::optional<OpenedJob> opened_;  ///< the job that is edited, unless it could not be read
     bool loading_ = true;
     bool open_ = true;
     bool timerRunning_ = true;

@@ -1,4 +1,5 @@
 // Saving: the checks of the form, the job's file name, the questions before a file is lost, and the write.
+#include <algorithm>
 #include <string>
 
 #include "editor/JobName.h"
@@ -6,7 +7,9 @@
 #include "editor/TypedMoments.h"
 #include "editor/Views.h"
 #include "editor/frmEdit.h"
+#include "form/OptionNames.h"
 #include "i18n/Catalogue.h"
+#include "persistence/JobMerge.h"
 #include "persistence/modSaveValues.h"
 #include "platform/Text.h"
 
@@ -77,11 +80,6 @@ void frmEdit::save() {
     close();
 }
 
-std::vector<JobLine> frmEdit::correctedLines() {
-    CorrectValues(*this);
-    return SaveValues(*this, platform_.dates, platform_.clock.now());
-}
-
 void frmEdit::saveNew(const std::string& name) {
     if (name.empty()) {
         (void)askForName(Buttons::ok, TextId::nameMissing);
@@ -91,7 +89,7 @@ void frmEdit::saveNew(const std::string& name) {
     if (platform_.files.FileExists(file) && !confirmOverwrite(TextId::overwriteNew)) {
         return;
     }
-    jobs_.write(file, correctedLines(), JobStore::Write::create);
+    create(file);
     values_.JobFile = file;
     close();
 }
@@ -104,24 +102,65 @@ void frmEdit::saveEdited(const std::string& name) {
         }
         return open(dxName);
     }
-    if (name == LoadedName) {
-        jobs_.write(values_.JobFile, correctedLines(), JobStore::Write::update);
-        return close();
-    }
-    const std::string file = jobPath(name);
-    if (platform_.files.FileExists(file)) {
+    const bool renamed = name != trimBlanks(LoadedName);
+    const std::string file = renamed ? jobPath(name) : values_.JobFile;
+    const bool own = opened_ && platform_.files.isSameFile(opened_->file, file);
+    if (!own && platform_.files.FileExists(file)) {
         if (!confirmOverwrite(TextId::overwriteEdited)) return;
-        jobs_.write(file, correctedLines(), JobStore::Write::create);
-    } else if (!invalidNameCharacters(LoadedName).empty()) {
-        // No save gave the old job this name, and it could lead to a file elsewhere: that one stays.
-        jobs_.write(file, correctedLines(), JobStore::Write::create);
+        create(file);
+    } else if (opened_ && (own || renamed)) {
+        if (!saveOpened(renamed ? std::filesystem::path(file) : opened_->file)) return;
     } else {
-        jobs_.rename(jobPath(LoadedName), file, correctedLines());
+        create(file);
     }
-    // What was saved is a job of another name now, which the host has to look for.
-    values_.Mode = "New";
-    values_.JobFile = file;
+    if (renamed) {
+        // What was saved is a job of another name now, which the host has to look for.
+        values_.Mode = "New";
+        values_.JobFile = file;
+    }
     close();
+}
+
+void frmEdit::create(const std::string& file) {
+    const auto lines = SaveValues(*this, platform_.dates, platform_.clock.now());
+    jobs_.create(file, lines, opened_ ? opened_->file : std::filesystem::path{});
+    CorrectValues(*this);
+}
+
+/// Writes the job over what its file holds now, which may be another program's work. False when the user goes back to
+/// the form instead.
+bool frmEdit::saveOpened(const std::filesystem::path& target) {
+    const auto lines = SaveValues(*this, platform_.dates, platform_.clock.now());
+    Winner winner = Winner::mine;
+    std::vector<BothChanged> answered;
+    for (;;) {
+        JobChange change = jobs_.change(opened_->file);
+        const JobMerge merge = MergeJob(lines, *opened_, change.present(), winner);
+        if (merge.conflicts == answered) {
+            target == opened_->file ? change.save(merge.lines) : change.saveAs(target, merge.lines);
+            CorrectValues(*this);
+            return true;
+        }
+        const Answer answer = askWhoseValues(merge.conflicts);
+        if (answer == Answer::cancel) return false;
+        // The file may have changed again meanwhile: the answer holds for what it was given on.
+        winner = answer == Answer::yes ? Winner::mine : Winner::theirs;
+        answered = merge.conflicts;
+    }
+}
+
+Answer frmEdit::askWhoseValues(const std::vector<BothChanged>& keys) {
+    std::vector<std::string> names;
+    for (const BothChanged& key : keys) {
+        std::string name = nameForUsers(*this, key.row->control);
+        if (std::ranges::find(names, name) == names.end()) names.push_back(std::move(name));
+    }
+    std::string text = textOf(ini_, TextId::changedByOther) + "\r\n";
+    for (const std::string& name : names)
+        text.append("\r\n- ").append(name);
+    text.append("\r\n\r\n").append(textOf(ini_, TextId::keepOwnValues));
+    return platform_.prompts.showMessage(
+        {textOf(ini_, TextId::saveTitle), std::move(text), Buttons::yesNoCancel, MessageIcon::question});
 }
 
 Answer frmEdit::askForName(Buttons buttons, TextId firstLine) {

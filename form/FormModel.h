@@ -281,6 +281,7 @@ struct KESTEDIT_EXPORT FormModel : ControlRegistry {
     int HandledUnZipItem = -1;  ///< the optUnZip member whose rule ran last
     int fMode = 0;              ///< path field that the new-folder dialog serves: source, destination, monitored folder
     std::string StoredNodeIcon;  ///< the action's image as the job holds it; stands where the view has no node for it
+    std::string LoadProblem;     ///< why the job could not be read; empty when it was, and for a new one
     std::string LoadedName;      ///< job name as it was loaded; empty for a new job
 
     std::vector<std::string> TextCatalogue = std::vector<std::string>(catalogueSize);

@@ -1,10 +1,12 @@
 #include "host/EditorSession.h"
 
+#include <stdexcept>
 #include <system_error>
 #include <utility>
 
 #include "component/clsEdit.h"
 #include "component/events/PrintedText.h"
+#include "editor/frmEdit.h"
 #include "host/LanguageFile.h"
 #include "platform/Posix.h"
 
@@ -19,6 +21,22 @@ std::unique_ptr<Clock> makeClock(const std::optional<LocalTime>& moment) {
     return std::make_unique<SystemClock>();
 }
 
+/// A driver that no form reaches whose job could not be read: its fields show defaults, and a save would hide the
+/// mistake.
+class OfReadableJob final : public ModalRun {
+  public:
+    explicit OfReadableJob(ModalRun& driver) : driver_(driver) {}
+
+    void run(frmEdit& form) override {
+        if (!form.LoadProblem.empty()) throw std::runtime_error(form.LoadProblem);
+        driver_.run(form);
+    }
+    void processPending() override { driver_.processPending(); }
+
+  private:
+    ModalRun& driver_;
+};
+
 }  // namespace
 
 EditorSession::EditorSession(EditorOptions options, Prompts& prompts)
@@ -32,7 +50,8 @@ EditorSession::EditorSession(EditorOptions options, Prompts& prompts)
 }
 
 void EditorSession::show(ModalRun& driver) {
-    clsEdit editor(platform_, driver);
+    OfReadableJob readable(driver);
+    clsEdit editor(platform_, readable);
     editor.JobFile(options_.jobFile.value_or(""));
     editor.Mode(options_.jobFile ? "Edit" : "New");
     editor.View(options_.view);

@@ -15,12 +15,11 @@ namespace kestedit {
 /// event.
 class EditorSession {
   public:
-    /// `prompts` must outlive the session. Throws std::system_error when the job to be edited cannot be read: the
-    /// editor itself would open with design-time values on such a file, and a save would hide the mistake.
+    /// `prompts` must outlive the session. Throws std::system_error when the job to be edited cannot be read.
     EditorSession(EditorOptions options, Prompts& prompts);
 
     /// Runs the editor until it has closed. Creates the folder of new jobs when it is the default and missing. Throws
-    /// what the editor throws.
+    /// what the editor throws, and std::runtime_error when the job could not be loaded.
     void show(ModalRun& driver);
 
     /// The event that the last run raised: `SearchJobs`, `SetNewValues ""` or `none`.

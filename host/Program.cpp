@@ -5,12 +5,12 @@
 #include <system_error>
 #include <variant>
 
+#include "component/events/PrintedText.h"
 #include "host/EditorSession.h"
 #include "host/ErrorLine.h"
 #include "host/IniVerbs.h"
 #include "host/Options.h"
 #include "host/ScriptRun.h"
-#include "host/ScriptText.h"
 #include "host/Window.h"
 #include "platform/IniStore.h"
 

@@ -35,6 +35,7 @@ std::span<const Answer> answersOf(Buttons buttons) {
     static constexpr Answer ok[] = {Answer::ok};
     static constexpr Answer yesNo[] = {Answer::yes, Answer::no};
     static constexpr Answer cancelRetryContinue[] = {Answer::cancel, Answer::retry, Answer::proceed};
+    static constexpr Answer yesNoCancel[] = {Answer::yes, Answer::no, Answer::cancel};
     switch (buttons) {
         case Buttons::ok:
             return ok;
@@ -42,6 +43,8 @@ std::span<const Answer> answersOf(Buttons buttons) {
             return yesNo;
         case Buttons::cancelRetryContinue:
             return cancelRetryContinue;
+        case Buttons::yesNoCancel:
+            return yesNoCancel;
     }
     throw std::logic_error("buttons without answers");
 }

@@ -25,6 +25,8 @@ enum class TextId : std::uint8_t {
     overwriteNew,
     overwriteEdited,
     saveTitle,
+    changedByOther,
+    keepOwnValues,
     // titles of the folder choosers
     chooseSource,
     chooseDestination,
@@ -108,6 +110,8 @@ enum class TextId : std::uint8_t {
     regExOpenBackslash,
     regExTooLong,
     regExTooDeep,
+    jobUnreadable,
+    passwordReadable,
     // the window
     browseButton,
     newFolderButton,

@@ -14,6 +14,7 @@ enum class ValueForm : std::uint8_t {
     index,          ///< position of the selected member of an option group, "0" when none is selected
     optionalIndex,  ///< index, no key at all when no member is selected
     text,           ///< EditValue as it is
+    password,       ///< text that nobody but the job's owner should read
     path,           ///< text, which is the control's tool tip as well
     number,         ///< EditValue as decimal text, empty without a number
     date,           ///< short date text of the user's locale, empty without a date; today replaces it when loading

@@ -1,41 +1,64 @@
 #include "persistence/JobStore.h"
 
-#include <system_error>
+#include <algorithm>
 
 #include "persistence/JobFormat.h"
 
 namespace kestedit {
 
+namespace {
+
+namespace fs = std::filesystem;
+
+bool isPassword(const JobLine& line) {
+    const auto row = std::ranges::find(jobFormat(), line.key, &JobRow::key);
+    return line.section == jobSection && row != jobFormat().end() && row->form == ValueForm::password &&
+           !line.value.empty();
+}
+
+StagedFile stageJob(IniStore::Edit& edit, std::span<const JobLine> lines, const fs::path& target,
+                    const fs::path& former) {
+    for (const JobLine& line : lines)
+        edit.set(line.section, line.key, line.value);
+    const bool secret = std::ranges::any_of(lines, isPassword);
+    return edit.stage({StagedFile::Permissions::makeNormal, secret, former}, target);
+}
+
+}  // namespace
+
+bool JobRecord::isJob() const {
+    return snapshot_.hasSection(jobSection);
+}
+
 std::optional<std::string> JobRecord::field(std::string_view key) const {
     return snapshot_.value(jobSection, key);
 }
 
-std::optional<JobRecord> JobStore::read(const std::filesystem::path& file) const {
-    try {
-        IniStore::Snapshot snapshot = ini_.open(file, IniStore::Page::recognised);
-        if (!snapshot.hasSection(jobSection)) return std::nullopt;
-        return JobRecord{std::move(snapshot)};
-    } catch (const std::system_error&) {
-        return std::nullopt;
-    }
+void JobChange::save(std::span<const JobLine> lines) {
+    stageJob(edit_, lines, file_, file_).commit();
 }
 
-StagedFile JobStore::stage(const std::filesystem::path& file, std::span<const JobLine> lines, Write mode) const {
-    const bool startEmpty = mode == Write::create;
-    IniStore::Edit edit =
-        utf8_ ? ini_.editAsUtf8(file, startEmpty) : ini_.edit(file, startEmpty, IniStore::Page::recognised);
-    for (const JobLine& line : lines)
-        edit.set(line.section, line.key, line.value);
-    return edit.stage(StagedFile::Permissions::makeNormal);
+void JobChange::saveAs(const fs::path& target, std::span<const JobLine> lines) {
+    stageJob(edit_, lines, target, file_).commitReplacing(file_);
 }
 
-void JobStore::write(const std::filesystem::path& file, std::span<const JobLine> lines, Write mode) const {
-    stage(file, lines, mode).commit();
+JobRecord JobStore::read(const fs::path& file) const {
+    JobRecord job{ini_.open(file, IniStore::Page::recognised)};
+    if (!job.isJob()) throw NoJob("read \"" + file.string() + "\": no section \"" + std::string(jobSection) + '"');
+    return job;
 }
 
-void JobStore::rename(const std::filesystem::path& from, const std::filesystem::path& to,
-                      std::span<const JobLine> lines) const {
-    stage(to, lines, Write::create).commitReplacing(from);
+IniStore::Edit JobStore::edit(const fs::path& file, bool startEmpty) const {
+    return utf8_ ? ini_.editAsUtf8(file, startEmpty) : ini_.edit(file, startEmpty, IniStore::Page::recognised);
+}
+
+JobChange JobStore::change(const fs::path& file) const {
+    return {file, edit(file, false)};
+}
+
+void JobStore::create(const fs::path& file, std::span<const JobLine> lines, const fs::path& former) const {
+    IniStore::Edit fresh = edit(file, true);
+    stageJob(fresh, lines, file, former).commit();
 }
 
 }  // namespace kestedit

@@ -4,19 +4,30 @@
 #include <filesystem>
 #include <optional>
 #include <span>
+#include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "platform/Export.h"
 #include "platform/IniStore.h"
 
 namespace kestedit {
 
+/// A file that can be read and holds no job.
+class KESTEDIT_EXPORT NoJob : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
 /// The keys of section "Job" of one file.
 class KESTEDIT_EXPORT JobRecord {
   public:
     explicit JobRecord(IniStore::Snapshot snapshot) : snapshot_(std::move(snapshot)) {}
 
+    /// Whether there is such a section.
+    [[nodiscard]] bool isJob() const;
     /// The stored text; nothing when the file lacks the key.
     [[nodiscard]] std::optional<std::string> field(std::string_view key) const;
 
@@ -36,6 +47,35 @@ struct JobLine {
     std::string value;
 };
 
+/// A job as it was opened.
+struct OpenedJob {
+    std::filesystem::path file;
+    JobRecord stored;                ///< what the file held
+    std::vector<JobLine> untouched;  ///< what a save would have written before anything was edited
+};
+
+/// A job that is about to be changed: what its file holds now, and the ways to replace it. Lines that a save does not
+/// know stay as they are, whichever way. A read-only file becomes writable. Both ways throw std::system_error and leave
+/// the old file when anything fails.
+class KESTEDIT_EXPORT JobChange {
+  public:
+    /// What the file holds; no job when it has gone.
+    [[nodiscard]] JobRecord present() const { return JobRecord{edit_.base()}; }
+
+    /// Writes all lines in one replacement of the file, in their order.
+    void save(std::span<const JobLine> lines);
+    /// The same, with the file moving to `target`: at every instant exactly one of both names holds a whole job. The
+    /// new file has permissions and owner of the old one. A missing old file is no failure.
+    void saveAs(const std::filesystem::path& target, std::span<const JobLine> lines);
+
+  private:
+    friend class JobStore;
+    JobChange(std::filesystem::path file, IniStore::Edit edit) : file_(std::move(file)), edit_(std::move(edit)) {}
+
+    std::filesystem::path file_;
+    IniStore::Edit edit_;
+};
+
 class KESTEDIT_EXPORT JobStore {
   public:
     /// Must outlive the store.
@@ -46,24 +86,20 @@ class KESTEDIT_EXPORT JobStore {
     void writeAsUtf8() { utf8_ = true; }
     [[nodiscard]] bool writesAsUtf8() const { return utf8_; }
 
-    /// Nothing when the file cannot be read or has no section "Job".
-    [[nodiscard]] std::optional<JobRecord> read(const std::filesystem::path& file) const;
+    /// Throws std::system_error when the file cannot be read, and NoJob when it has no section "Job".
+    [[nodiscard]] JobRecord read(const std::filesystem::path& file) const;
 
-    enum class Write {
-        update,  ///< lines that the save does not know stay as they are
-        create   ///< whatever the file holds is forgotten
-    };
-    /// Writes all lines in one replacement of the file, in their order; a read-only file becomes writable. Throws
-    /// std::system_error and leaves the old file when anything fails.
-    void write(const std::filesystem::path& file, std::span<const JobLine> lines, Write mode) const;
+    /// Begins with the file as it stands now. Throws std::system_error when it is there and cannot be read.
+    [[nodiscard]] JobChange change(const std::filesystem::path& file) const;
 
-    /// Writes a new file and takes the old one away, so that at every instant one of both names holds a whole job.
-    /// Throws std::system_error with the old file in place when anything fails. A missing old file is no failure.
-    void rename(const std::filesystem::path& from, const std::filesystem::path& to,
-                std::span<const JobLine> lines) const;
+    /// Writes a job that holds these lines alone, and forgets what the file held. A file that is new and holds a
+    /// password is for its owner alone; one that is not lets nobody in who could not read `former`, where the job stood
+    /// so far. Throws as a change does.
+    void create(const std::filesystem::path& file, std::span<const JobLine> lines,
+                const std::filesystem::path& former = {}) const;
 
   private:
-    [[nodiscard]] StagedFile stage(const std::filesystem::path& file, std::span<const JobLine> lines, Write mode) const;
+    [[nodiscard]] IniStore::Edit edit(const std::filesystem::path& file, bool startEmpty) const;
 
     IniStore& ini_;
     bool utf8_ = false;

@@ -164,7 +164,8 @@ void loadRow(const Loading& load, const JobRow& row) {
         case extensionIndex:
         case sizeIndex:        return loadIndex(form, row.control, load.field(row));
         case optionalIndex:    return loadOptionalIndex(load, row);
-        case text:             load.control(row).EditValue = load.field(row); return;
+        case text:
+        case password:         load.control(row).EditValue = load.field(row); return;
         case path:             return loadPath(load, row);
         case number:
         case freeSpace:        return loadNumber(load, row);

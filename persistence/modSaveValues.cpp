@@ -129,6 +129,7 @@ std::optional<std::string> valueOf(const Source& from, const JobRow& row) {
         case actionIndex:      return indexText(form, row.control).value_or("0");
         case optionalIndex:    return indexText(form, row.control);
         case text:
+        case password:
         case path:             return guarded(form.at(row.control).text());
         case number:           return numberText(form.at(row.control));
         case date:

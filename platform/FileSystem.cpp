@@ -49,6 +49,11 @@ bool LocalFileSystem::FolderExists(const fs::path& folder) const {
     return fs::is_directory(statusOf(folder, "look for folder"));
 }
 
+bool LocalFileSystem::isSameFile(const fs::path& left, const fs::path& right) const {
+    std::error_code neither;
+    return left == right || fs::equivalent(left, right, neither);
+}
+
 void LocalFileSystem::DeleteFile(const fs::path& file) const {
     check(::unlink(file.c_str()), "delete file", file);
 }

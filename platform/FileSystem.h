@@ -26,6 +26,10 @@ class KESTEDIT_EXPORT FileSystem {
 
     [[nodiscard]] virtual bool FileExists(const std::filesystem::path& file) const = 0;
     [[nodiscard]] virtual bool FolderExists(const std::filesystem::path& folder) const = 0;
+    /// Whether both paths lead to one file, by whatever spelling and links. Two equal paths do; of two others, one that
+    /// leads nowhere does not.
+    [[nodiscard]] virtual bool isSameFile(const std::filesystem::path& left,
+                                          const std::filesystem::path& right) const = 0;
     virtual void DeleteFile(const std::filesystem::path& file) const = 0;
     /// Creates one folder; its parent must exist.
     virtual void CreateFolder(const std::filesystem::path& folder) const = 0;
@@ -49,6 +53,7 @@ class KESTEDIT_EXPORT LocalFileSystem : public FileSystem {
   public:
     [[nodiscard]] bool FileExists(const std::filesystem::path& file) const override;
     [[nodiscard]] bool FolderExists(const std::filesystem::path& folder) const override;
+    [[nodiscard]] bool isSameFile(const std::filesystem::path& left, const std::filesystem::path& right) const override;
     void DeleteFile(const std::filesystem::path& file) const override;
     void CreateFolder(const std::filesystem::path& folder) const override;
     [[nodiscard]] std::string BuildPath(std::string_view folder, std::string_view name) const override;

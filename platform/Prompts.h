@@ -10,7 +10,7 @@ namespace kestedit {
 
 class dlgNewFolder;
 
-enum class Buttons { ok, yesNo, cancelRetryContinue };
+enum class Buttons { ok, yesNo, cancelRetryContinue, yesNoCancel };
 enum class Answer { ok, yes, no, cancel, retry, proceed };
 enum class MessageIcon { none, information, question, error };
 

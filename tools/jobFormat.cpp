@@ -92,6 +92,7 @@ std::string valueOf(const FormModel& form, const JobRow& row) {
         case optionalIndex:
             return positions(form, row) + ", or no key";
         case text:
+        case password:
         case path:
             return "text";
         case jobName:

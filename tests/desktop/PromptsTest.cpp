@@ -45,6 +45,7 @@ TEST_F(Questions, EachButtonIsItsAnswerAndKeysChangeNothing) {
         {Buttons::yesNo, Yes, Answer::yes},
         {Buttons::cancelRetryContinue, Retry, Answer::retry},
         {Buttons::cancelRetryContinue, Ignore, Answer::proceed},
+        {Buttons::yesNoCancel, No, Answer::no},
     };
     for (const auto& [buttons, button, answer] : choices)
         EXPECT_EQ(ask(buttons, [button](QMessageBox& box) { box.button(button)->click(); }), answer);
@@ -52,6 +53,7 @@ TEST_F(Questions, EachButtonIsItsAnswerAndKeysChangeNothing) {
         const auto press = [key](QMessageBox& box) { QTest::keyClick(&box, key); };
         EXPECT_EQ(ask(Buttons::yesNo, press), Answer::no);
         EXPECT_EQ(ask(Buttons::cancelRetryContinue, press), Answer::cancel);
+        EXPECT_EQ(ask(Buttons::yesNoCancel, press), Answer::cancel);
     }
 }
 

@@ -6,6 +6,7 @@
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
+#include <utility>
 
 #include "editor/dlgNewFolder.h"
 #include "editor/frmEdit.h"
@@ -24,6 +25,7 @@ class ScriptedPrompts final : public Prompts {
     std::deque<Answer> answers;
     std::deque<std::string> choices;  ///< of both choosers; with none left they are cancelled
     std::function<void(dlgNewFolder&)> newFolder;
+    std::function<void()> meanwhile;  ///< what happens while the first message stands
     std::vector<MessageBox> messages;
     std::function<void()> whileAsked;  ///< the message box stands open
     std::string lastChooser;           ///< its title, or what it lets choose
@@ -31,6 +33,7 @@ class ScriptedPrompts final : public Prompts {
     Answer showMessage(const MessageBox& box) override {
         messages.push_back(box);
         if (whileAsked) whileAsked();
+        if (meanwhile) std::exchange(meanwhile, nullptr)();
         if (answers.empty()) throw std::logic_error("nobody answers: " + box.text);
         return next(answers);
     }

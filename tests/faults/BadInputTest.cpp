@@ -36,14 +36,14 @@ TEST_F(BadInputTest, AScriptHasTheSizeLimitOfAJob) {
     EXPECT_EQ(folder.names(), "home huge ");
 }
 
-TEST_F(BadInputTest, ZerosAreAJobWithoutKeysThatOnlyAnAnswerReplaces) {
-    const std::string zeros(100'000, '\0');
-    const auto file = folder.file("zeros.job", zeros);
-    for (const std::string answer : {"no", "yes"}) {
-        EXPECT_EQ(test::bytesOf(file), zeros);
-        EXPECT_EQ(script("edit zeros.job", "answer " + answer + "\ntype dxName zeros\nclick cmdSave\n").code, 0);
+TEST_F(BadInputTest, AFileWithoutAJobIsNotOpened) {
+    for (const std::string& bytes : {std::string(100'000, '\0'), std::string{}, std::string("[Info]\nName=a\n")}) {
+        const auto file = folder.file("none.job", bytes);
+        const auto result = script("edit none.job", "answer yes\ntype dxName none\nclick cmdSave\n");
+        EXPECT_EQ(result.code, 1);
+        EXPECT_EQ(result.err, "kestedit: home/script: read \"./none.job\": no section \"Job\"\n");
+        EXPECT_EQ(test::bytesOf(file), bytes);
     }
-    EXPECT_TRUE(test::bytesOf(file).starts_with("[Job]\r\nName=zeros\r\n"));
 }
 
 TEST_F(BadInputTest, NoLanguageFileKeepsTheEditorFromWorking) {

@@ -16,6 +16,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <dirent.h>
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <map>
@@ -154,6 +155,10 @@ int stat(const char* path, struct stat* status) noexcept { return relay(::stat, 
 int lstat(const char* path, struct stat* status) noexcept { return relay(::lstat, "lstat", path, status); }
 int rename(const char* from, const char* to) noexcept { return relay(::rename, "rename", from, to); }
 int unlink(const char* path) noexcept { return relay(::unlink, "unlink", path); }
+int scandir(const char* path, dirent*** names, int (*filter)(const dirent*),
+            int (*order)(const dirent**, const dirent**)) {
+    return relay(::scandir, "scandir", path, names, filter, order);
+}
 ssize_t readlink(const char* path, char* text, size_t size) noexcept {
     return relay(::readlink, "readlink", path, text, size);
 }

@@ -23,7 +23,7 @@ struct JobTest : test::EditorTest {
         edit("a");
     }
     /// Writes the form's values to a file that holds nothing else.
-    void save() { JobStore{ini}.write(jobFile("a"), SaveValues(form(), dates, now), JobStore::Write::create); }
+    void save() { JobStore{ini}.create(jobFile("a"), SaveValues(form(), dates, now)); }
     /// What a save writes for a key; "(none)" without the key.
     std::string saved(std::string_view key) {
         const auto before = SaveValues(form(), dates, now);
