@@ -71,7 +71,9 @@ Noticed password(const FormModel&) {
 
 Noticed jobName(const FormModel& form) {
     const std::string characters = invalidNameCharacters(form.dxName.text());
-    return characters.empty() ? std::nullopt : Noticed{{TextId::nameInvalid, {spaced(characters)}}};
+    if (!characters.empty()) return Notice{TextId::nameInvalid, {spaced(characters)}};
+    if (hasControlCharacter(form.dxName.text())) return Notice{TextId::nameControl};
+    return when(isHiddenName(form.dxName.text()), TextId::nameHidden);
 }
 
 Noticed notes(const FormModel& form) {

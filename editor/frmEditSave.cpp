@@ -42,7 +42,7 @@ void frmEdit::open(EditorControl& control) {
 }
 
 bool frmEdit::validate() {
-    if (!invalidNameCharacters(dxName.text()).empty()) {
+    if (!isFileName(dxName.text())) {
         reportInvalid(dxName, catalogue::invalidName);
         return false;
     }

@@ -25,8 +25,6 @@ enum class TextId : std::uint8_t {
     overwriteNew,
     overwriteEdited,
     saveTitle,
-    changedByOther,
-    keepOwnValues,
     // titles of the folder choosers
     chooseSource,
     chooseDestination,
@@ -112,6 +110,11 @@ enum class TextId : std::uint8_t {
     regExTooDeep,
     jobUnreadable,
     passwordReadable,
+    nameHidden,
+    nameControl,
+    // a job that another program has changed as well
+    changedByOther,
+    keepOwnValues,
     // the window
     browseButton,
     newFolderButton,

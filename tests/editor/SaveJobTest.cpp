@@ -333,6 +333,24 @@ TEST_F(SaveJob, NameWithACharacterThatNoFileNameHas) {
     }
 }
 
+TEST_F(SaveJob, NameOfAFileThatNobodySeesOrThatIsNone) {
+    create();
+    for (const auto& [name, reason] : {std::pair{".", "Punkt"},
+                                       {"..", "Punkt"},
+                                       {" .Night", "Punkt"},
+                                       {"a\tb", "Steuerzeichen"},
+                                       {"a\x1B", "Steuerzeichen"},
+                                       {"a\x7F", "Steuerzeichen"}}) {
+        type("dxName", name);
+        EXPECT_NE(form().dxName.Notice.find(reason), std::string::npos) << form().dxName.Notice;
+        EXPECT_EQ(save({Answer::ok}), report(21)) << name;
+    }
+    EXPECT_EQ(jobNames(), "");
+    type("dxName", "a.b");
+    EXPECT_EQ(form().dxName.Notice, "");
+    EXPECT_EQ(save(), "saved");
+}
+
 TEST_F(SaveJob, RequiredFieldsAreReportedOneByOneInTheirOrder) {
     const std::tuple<std::string_view, std::size_t, std::string_view, bool FormModel::*> rows[] = {
         {"dxRenamer", 24, "fraExisting", &FormModel::InvalidRenamerChars},

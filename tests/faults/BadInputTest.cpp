@@ -62,10 +62,10 @@ TEST_F(BadInputTest, NoNameLeadsElsewhere) {
     const auto save = [&](const std::string& name) {
         return script("new", "type dxName \"" + name + "\"\nclick cmdSave\n").code;
     };
-    EXPECT_EQ(save(std::string(300, 'n')), 1);
-    for (const std::string name : {"..", ".", "a\\r\\n[Info]"})
-        EXPECT_EQ(save(name), 0) << name;
-    EXPECT_EQ(folder.names(), "...job ..job a [Info].job home ");
+    for (const std::string& name : {std::string(300, 'n'), std::string(".."), std::string("."), std::string("a\\tb")})
+        EXPECT_EQ(save(name), 1) << name;
+    EXPECT_EQ(save("a\\r\\n[Info]"), 0);
+    EXPECT_EQ(folder.names(), "a [Info].job home ");
 }
 
 TEST_F(BadInputTest, WhatAJobCannotHoldIsRefused) {

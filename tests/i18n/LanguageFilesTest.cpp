@@ -1,11 +1,14 @@
 // What a language file brings into the form, and what a translator can get wrong in those that the product ships.
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <map>
 #include <set>
 
+#include "form/OptionNames.h"
 #include "i18n/LoadLanguage.h"
 #include "i18n/Texts.h"
 #include "i18n/modMessages.h"
+#include "persistence/JobFormat.h"
 #include "persistence/modIniHandler.h"
 #include "platform/Text.h"
 #include "tests/platform/TemporaryFolder.h"
@@ -163,6 +166,26 @@ TEST_F(RunTimeTexts, AValueIsFilledInOnceWhateverItReads) {
     ComponentValues values;
     EXPECT_EQ(textOf(modIniHandler{ini, values}, TextId::folderSilent, {"/a%1b%2"}),
               "Der Ordner /a%1b%2 antwortet nicht.");
+}
+
+TEST_F(LanguageTest, EachOptionOfAJobHasANameThatTellsItFromTheOthers) {
+    // These belong together, so that the name of one of them is that of all.
+    const std::set<std::string_view> shared{
+        "dxFreeSpace",   "dxSize",         "optFileAgeType",   "dxAge",      "optFileDate",         "optRenameSelect",
+        "dxPickRenamer", "optAttrSetDest", "optAttrSetSource", "optExecute", "dxPickExistSelecter", "dxFileDate"};
+    for (const std::string_view language : {"german", "english"}) {
+        load(shippedLanguage(language));
+        std::map<std::string, std::string_view> known;
+        for (const JobRow& row : jobFormat()) {
+            if (row.control.empty() || shared.contains(row.control)) continue;
+            const std::string name = nameForUsers(form, row.control);
+            EXPECT_FALSE(name.empty()) << language << row.control;
+            EXPECT_EQ(name.find('&'), name.npos) << name;
+            EXPECT_EQ(known.emplace(name, row.control).first->second, row.control) << name;
+        }
+        for (const std::string_view control : shared)
+            EXPECT_FALSE(nameForUsers(form, control).empty()) << control;
+    }
 }
 
 }  // namespace
