@@ -35,19 +35,19 @@ const std::string& textOf(const Argument& given) {
 }
 
 // clang-format off
-constexpr ArgumentKind answer {"WORD", "ok, yes, no, cancel, retry or continue", readAnswer};
-constexpr ArgumentKind path   {"PATH", "a path",                                 arguments::readText};
+constexpr ArgumentKind answerKind {"WORD", "ok, yes, no, cancel, retry or continue", readAnswer};
+constexpr ArgumentKind pathKind   {"PATH", "a path",                                 arguments::readText};
 
 using arguments::property;
 using Driver = ScriptDriver;
 
 // Verb, the words behind it, what the help says, whether it answers, and what happens.
 constexpr auto ownVerbs = std::to_array<ScriptVerb>({
-    {{"answer",         {&answer},   "answers the next message box: ok yes no cancel retry continue"}, true,
+    {{"answer",         {&answerKind}, "answers the next message box: ok yes no cancel retry continue"}, true,
      [](Driver& d, const Arguments& a) { d.prompts().queueAnswer(answerNamed(textOf(a[0]))->second); }},
-    {{"folder",         {&path},     "answers the next chooser with a folder"}, true,
+    {{"folder",         {&pathKind},   "answers the next chooser with a folder"}, true,
      [](Driver& d, const Arguments& a) { d.prompts().queueFolder(textOf(a[0])); }},
-    {{"file",           {&path},     "answers the next chooser with a file"}, true,
+    {{"file",           {&pathKind},   "answers the next chooser with a file"}, true,
      [](Driver& d, const Arguments& a) { d.prompts().queueFile(textOf(a[0])); }},
     {{"cancel-chooser", {},          "cancels the next chooser"}, true,
      [](Driver& d, const Arguments&) { d.prompts().queueCancel(); }},

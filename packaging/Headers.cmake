@@ -25,10 +25,13 @@ set(public_headers
   form/ComponentValues.h
   form/EditorControl.h
   form/FormModel.h
+  form/OptionNames.h
   editor/ImageMeaning.h
   editor/JobCharacters.h
   editor/JobFolders.h
+  editor/NumberRanges.h
   editor/dlgNewFolder.h
+  editor/modSpinButtons.h
   editor/frmEdit.h
   i18n/Texts.h
   persistence/JobStore.h

@@ -7,7 +7,6 @@
 #include <utility>
 #include <vector>
 
-#include "platform/CodePage.h"
 #include "platform/Text.h"
 #include "platform/TypedNumbers.h"
 
@@ -66,10 +65,6 @@ std::optional<int> hourOf(int typed, Half half) {
     if (half == Half::morning) return typed == 12 ? 0 : typed < 12 ? std::optional{typed} : std::nullopt;
     if (typed == 0) return std::nullopt;
     return typed < 12 ? typed + 12 : typed;
-}
-
-bool isUtf8(std::string_view text) {
-    return CodePage(CodePage::utf8).encode(text).has_value();
 }
 
 }  // namespace

@@ -34,6 +34,7 @@ class SampleFolders final : public FileSystem {
   public:
     [[nodiscard]] bool FileExists(const fs::path& file) const override { return local_.FileExists(file); }
     [[nodiscard]] bool FolderExists(const fs::path&) const override { return true; }
+    [[nodiscard]] bool isSameFile(const fs::path& left, const fs::path& right) const override { return left == right; }
     void DeleteFile(const fs::path&) const override {}
     void CreateFolder(const fs::path&) const override {}
     [[nodiscard]] std::string BuildPath(std::string_view folder, std::string_view name) const override {

@@ -17,7 +17,7 @@ namespace kestedit {
 namespace {
 
 // clang-format off
-constexpr auto properties = std::to_array<ControlProperty>({
+constexpr auto controlRows = std::to_array<ControlProperty>({
     {"EditValue",   [](const EditorControl& control) { return valueText(control.EditValue); }},
     {"State",       [](const EditorControl& control) { return std::to_string(control.State); }},
     {"Enabled",     [](const EditorControl& control) { return flagText(control.Enabled); }},
@@ -42,7 +42,7 @@ struct FormField {
 };
 
 // clang-format off
-constexpr auto fields = std::to_array<FormField>({
+constexpr auto fieldRows = std::to_array<FormField>({
     {"Caption",                 [](const frmEdit& form) { return quotedText(form.Caption); }},
     {"Mode",                    [](const frmEdit& form) { return quotedText(form.values().Mode); }},
     {"JobFile",                 [](const frmEdit& form) { return quotedText(form.values().JobFile); }},
@@ -80,7 +80,7 @@ struct FormList {
 constexpr std::size_t anyPage = std::numeric_limits<int>::max();
 
 // clang-format off
-constexpr auto lists = std::to_array<FormList>({
+constexpr auto listRows = std::to_array<FormList>({
     {"TextCatalogue",  catalogueSize,  [](auto& form, auto at) { return quotedText(form.TextCatalogue[at]); }},
     {"ReplaceIfTexts", replaceIfCount, [](auto& form, auto at) { return quotedText(form.ReplaceIfTexts[at]); }},
     {"Localizer",      localizerSize,  [](auto& form, auto at) { return quotedText(form.Localizer[at]); }},
@@ -99,20 +99,20 @@ const EditorControl& visibleControl(const OpenWindows& windows, std::string_view
 }
 
 std::string controlText(const EditorControl& control, std::string_view property) {
-    const auto row = std::ranges::find(properties, property, &ControlProperty::name);
-    if (row == properties.end()) throw unknown(control.Name(), property);
+    const auto row = std::ranges::find(controlRows, property, &ControlProperty::name);
+    if (row == controlRows.end()) throw unknown(control.Name(), property);
     return row->text(control);
 }
 
 std::string formText(const frmEdit& form, std::string_view field) {
     if (!field.ends_with(')')) {
-        const auto row = std::ranges::find(fields, field, &FormField::name);
-        if (row == fields.end()) throw unknown("frmEdit", field);
+        const auto row = std::ranges::find(fieldRows, field, &FormField::name);
+        if (row == fieldRows.end()) throw unknown("frmEdit", field);
         return row->text(form);
     }
     const auto open = std::min(field.find('('), field.size() - 1);
-    const auto row = std::ranges::find(lists, field.substr(0, open), &FormList::name);
-    if (row == lists.end()) throw unknown("frmEdit", field);
+    const auto row = std::ranges::find(listRows, field.substr(0, open), &FormList::name);
+    if (row == listRows.end()) throw unknown("frmEdit", field);
     const std::string_view index = field.substr(open + 1, field.size() - open - 2);
     const auto position = parseWholeNumber(index, 0, static_cast<std::int64_t>(row->size) - 1);
     if (!position) throw unknown("frmEdit", field);
@@ -128,7 +128,7 @@ std::string dialogText(const dlgNewFolder& dialog, std::string_view field) {
 }  // namespace
 
 std::span<const ControlProperty> controlProperties() {
-    return properties;
+    return controlRows;
 }
 
 std::string propertyText(const OpenWindows& windows, std::string_view name) {

@@ -149,12 +149,10 @@ TEST_F(Moments, AreWhatWasTypedHoweverTheFieldWasReached) {
 
 TEST_F(Moments, ThatAreNoneStayInTheFieldAndAreToldUnderIt) {
     openDates();
-    const auto& notice = *window().currentPage()->findChild<NoticeLabel*>("dxDate_notice");
     EXPECT_EQ(entered("dxDate", "31.2.2027"), "2026-11-21");
     EXPECT_EQ(shown("dxDate"), "31.2.2027");
-    EXPECT_TRUE(notice.isVisible());
-    EXPECT_TRUE(notice.text().contains("21.11.2026"));
-    EXPECT_EQ(focusOf("dxDate").accessibleDescription(), notice.text());
+    EXPECT_TRUE(notice("dxDate").contains("21.11.2026"));
+    EXPECT_EQ(focusOf("dxDate").accessibleDescription(), notice("dxDate"));
     QTest::keyClick(&focus("dxDate"), Qt::Key_Up);
     EXPECT_EQ(shown("dxDate"), "31.2.2027") << "no step leads on from there";
     enter("dxName", "a");
@@ -163,7 +161,7 @@ TEST_F(Moments, ThatAreNoneStayInTheFieldAndAreToldUnderIt) {
     QTest::keyClick(&focusOf("dxDate"), Qt::Key_S, Qt::ControlModifier);
     EXPECT_TRUE(form().isOpen());
     EXPECT_EQ(entered("dxDate", "28.2.27"), "2027-02-28");
-    EXPECT_FALSE(notice.isVisible());
+    EXPECT_EQ(notice("dxDate"), "");
     focusOf("dxDate").setFocus();
     QTest::keyClick(&focusOf("dxDate"), Qt::Key_A, Qt::ControlModifier);
     QTest::keyClicks(&focusOf("dxDate"), "1.3.27");

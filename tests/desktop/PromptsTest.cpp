@@ -71,6 +71,18 @@ TEST_F(Questions, StandBeforeAWindowThatIsUpToDateInPlainTextOfTheEditorsLanguag
     });
 }
 
+TEST_F(Questions, ThatCameWhileTypingComeOnceForAFieldAndGiveItBack) {
+    open();
+    questions.serve({&window(), [this] { window().refresh(); }, {}});
+    prompts.answers = {Answer::no};
+    prompts.whileAsked = [this] { ask(Buttons::yesNo, [](QMessageBox& box) { box.reject(); }); };
+    enter("dxName", "a日本b");
+    settle();
+    EXPECT_EQ(line("dxName").text(), "ab");
+    EXPECT_EQ(prompts.messages.size(), 1U);
+    EXPECT_EQ(window().focusWidget(), &line("dxName"));
+}
+
 TEST_F(Questions, FolderChooserOpensAtTheFolderAndTellsTheSelection) {
     const QString start = toQt(folder.path().string());
     whenAsked<QFileDialog>([&](QFileDialog& chooser) {

@@ -164,7 +164,7 @@ TEST_F(Characters, OfForeignLinesAreConvertedWithTheJob) {
     EXPECT_EQ(form().dxSource.text() + form().dxComment.text(), "/Ümläutgrüße");
     type("dxName", "β");
     save();
-    EXPECT_TRUE(holds("β", "Name=β\r\nFrom=/Ümläut\r\nTo=/Łódź\r\n")) << "a rename keeps to UTF-8";
+    EXPECT_TRUE(holds("β", "Name=β\n") && holds("β", "\nFrom=/Ümläut\nTo=/Łódź\n")) << "a rename keeps to UTF-8";
     EXPECT_EQ(prompts.messages.size(), 1U);
 }
 
@@ -211,8 +211,7 @@ TEST_F(Characters, WhoseBytesWouldBeReadAsOthersAreAskedAboutWhenSaving) {
     save();
     edit("b");
     EXPECT_EQ(form().dxSource.text(), "/Ã¤/ü");
-    EXPECT_THROW(JobStore{ini}.write(jobFile("a"), {{JobLine{"Job", "From", "/Ã¤"}}}, JobStore::Write::create),
-                 std::system_error);
+    EXPECT_THROW(JobStore{ini}.create(jobFile("a"), {{JobLine{"Job", "From", "/Ã¤"}}}), std::system_error);
 }
 
 TEST_F(Characters, CannotBeAddedToAJobWithBytesThatAreNone) {
@@ -225,7 +224,7 @@ TEST_F(Characters, CannotBeAddedToAJobWithBytesThatAreNone) {
     putJob("a", job);
     JobStore utf8{ini};
     utf8.writeAsUtf8();
-    EXPECT_THROW(utf8.write(jobFile("a"), {{JobLine{"Job", "To", "/日"}}}, JobStore::Write::update), std::system_error);
+    EXPECT_THROW(utf8.change(jobFile("a")).save({{JobLine{"Job", "To", "/日"}}}), std::system_error);
     EXPECT_EQ(jobBytes("a"), job);
 }
 

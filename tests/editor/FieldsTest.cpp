@@ -198,7 +198,6 @@ TEST_F(Events, AClosedWindowTakesNone) {
         EXPECT_EQ(values.Cancelled, way == "cmdCancel");
         EXPECT_EQ(form().FocusedControl, &at("dxName"));
         EXPECT_TRUE(form().isTimerRunning());
-        EXPECT_FALSE(at("dxName").SuppressContextMenu);
     }
     EXPECT_EQ(jobNames(), "cmdSave.job ");
 }
