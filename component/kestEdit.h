@@ -148,7 +148,8 @@ KESTEDIT_API kestEdit_Result kestEdit_setChoosers(kestEdit_Handle editor, kestEd
  *     type      dxName        "Night"       the text of a field; of a number field, decimal digits
  *     check     chkSubFolder  "1"           a check box: 0, 1 or 2
  *     choose    optAction(3)  NULL          a member of an option group; also optAction with "3"
- *     pick      dxZipGrade    "High"        an entry of a pick list
+ *     pick      dxZipGrade    "High"        an entry of a pick list, the first of equal ones
+ *     pick-entry dxZipGrade   "3"           an entry of a pick list by its position from 0
  *     set-date  dxDate        "2026-11-21"  a date
  *     set-time  dxDateTime    "14:05:00"    a time of day
  *     number    dxDays        "3"           a number

@@ -97,6 +97,8 @@ constexpr auto events = std::to_array<UserEvent>({
      [](const Windows& w, const Arguments& a) { w.form.onOptionChosen(w.member(textOf(a[0]), positionOf(a[1]))); }},
     {{"pick",     {&control, &text},      "selects an entry of a pick list"}, Target::form,
      [](const Windows& w, const Arguments& a) { w.form.onItemPicked(controlOf(w, a), textOf(a[1])); }},
+    {{"pick-entry", {&control, &index},   "selects an entry of a pick list by its position"}, Target::form,
+     [](const Windows& w, const Arguments& a) { w.form.onItemPicked(controlOf(w, a), positionOf(a[1])); }},
     {{"set-date", {&control, &date},      "chooses a date"}, Target::form,
      [](const Windows& w, const Arguments& a) { w.form.onDateChosen(controlOf(w, a), std::get<Date>(a[1])); }},
     {{"set-time", {&control, &time},      "chooses a time of day"}, Target::form,

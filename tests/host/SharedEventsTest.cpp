@@ -83,6 +83,7 @@ TEST_F(SharedEvents, ComeToTheSameByScriptAndByTheCInterface) {
         {"node 1", "node", nullptr, "1"},
         {"choose optAction 3", "choose", "optAction(3)"},
         {"pick dxZipGrade Hoch", "pick", "dxZipGrade", "Hoch"},
+        {"pick-entry dxZipGrade 1", "pick-entry", "dxZipGrade", "1"},
         {"choose optAction 0", "choose", "optAction", "0"},
         {"check chkInactive 2", "check", "chkInactive", "2"},
         {"number dxDays 3", "number", "dxDays", "3"},
