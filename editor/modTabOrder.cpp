@@ -70,7 +70,8 @@ constexpr std::array tabList{
     TabPlace{141, "cmdCancel"},           TabPlace{142, "cmdSave"},
 };
 
-/// A control that the list leaves out, and the one right behind which it stands.
+/// A control that the list leaves out, and the one right behind which it stands. What neither table names stands behind
+/// the control that is declared before it.
 struct Follower {
     std::string_view control;
     std::string_view governor;
@@ -114,17 +115,29 @@ Sequence focusableControls(const FormModel& form) {
     return sequence;
 }
 
+template <typename Table, typename Name>
+bool isIn(const Table& table, Name name, const EditorControl& control) {
+    return std::ranges::find(table, control.Name(), name) != table.end();
+}
+
+void putBehind(Sequence& sequence, EditorControl* control, const EditorControl* governor) {
+    std::erase(sequence, control);
+    sequence.insert(std::next(std::ranges::find(sequence, governor)), control);
+}
+
 }  // namespace
 
 void SetTabOrder(FormModel& form) {
-    Sequence sequence = focusableControls(form);
+    const Sequence declared = focusableControls(form);
+    Sequence sequence = declared;
     for (const TabPlace& row : tabList)
         moveTo(sequence, &form.at(row.control), static_cast<std::size_t>(row.index));
-    for (const Follower& row : followers) {
-        EditorControl* const control = &form.at(row.control);
-        std::erase(sequence, control);
-        const auto governor = std::ranges::find(sequence, &form.at(row.governor));
-        sequence.insert(std::next(governor), control);
+    for (const Follower& row : followers)
+        putBehind(sequence, &form.at(row.control), &form.at(row.governor));
+    for (std::size_t i = 1; i < declared.size(); ++i) {
+        const bool placed =
+            isIn(tabList, &TabPlace::control, *declared[i]) || isIn(followers, &Follower::control, *declared[i]);
+        if (!placed) putBehind(sequence, declared[i], declared[i - 1]);
     }
     int index = 0;
     for (EditorControl* control : sequence)

@@ -33,6 +33,51 @@ inline constexpr std::size_t catalogueSize = 85;
 inline constexpr std::size_t replaceIfCount = 8;
 inline constexpr std::size_t localizerSize = 13;
 
+struct ControlName {
+    std::string_view base;
+    int members = 0;  ///< of a control array; 0: the control stands alone
+};
+
+/// The controls below by their names, in their order: tables that name controls are checked against it when they are
+/// compiled (form/ControlNames.h). Test: FormModel.HasTheControlsOfTheListOfNames.
+// clang-format off
+inline constexpr auto controlNames = std::to_array<ControlName>({
+    {"dxTreeList1"}, {"cmdPrevious"}, {"cmdNext"}, {"cmdCancel"}, {"cmdSave"}, {"Image1"}, {"fraComment"},
+    {"lblNamePath"}, {"lblName"}, {"dxName"}, {"lblComment"}, {"dxComment"}, {"fraMode"}, {"lblModus"},
+    {"optAction", 6}, {"lblDeleteFiles"}, {"chkDelType"}, {"lblModeSub"}, {"chkPreview"}, {"chkOnlyCompare"},
+    {"fraPath"}, {"lblSource", 1}, {"dxSource"}, {"lblDest", 1}, {"dxDest"}, {"chkEditPaths"}, {"lblChkPathMsg"},
+    {"fraMonitoring"}, {"lblExecution"}, {"lblIntevalTitle"}, {"optIntervall", 3}, {"dxDays"}, {"lblDays"},
+    {"dxHours"}, {"lblHours"}, {"dxMinutes"}, {"lblMinutes"}, {"optIntTime", 4}, {"lblDateTime"}, {"dxDateTime"},
+    {"lblIntWeekDay"}, {"dxIntWeekDay"}, {"lblIntMonthDay"}, {"dxIntMonthDay"}, {"lblDate"}, {"dxDate"},
+    {"lblChkTimeMsg"}, {"lblRTMon"}, {"optMonitorPath", 3}, {"dxMonitorPath"}, {"lblMonDelay"}, {"dxMonDelay"},
+    {"lblWatchWhat"}, {"dxMonWatch"}, {"chkMonSubFolder"}, {"fraExecute"}, {"lblMonitoring"}, {"chkInactive"},
+    {"chkRunOnce"}, {"chkFreeSpace"}, {"dxFreeSpace"}, {"lblExecTitle"}, {"chkExecDo"}, {"optExecute", 2},
+    {"lblExecPath"}, {"dxExecPath"}, {"lblExecParam"}, {"dxExecParam"}, {"chkExecWait"}, {"lblExecMaxSec"},
+    {"dxExecMaxSec"}, {"fraFolders"}, {"lblBehaviour"}, {"lblFindFolder"}, {"chkSubFolder"}, {"lblFolderTitle"},
+    {"optFolderMatch", 3}, {"lblFolder"}, {"dxFolderMatch"}, {"chkRegExFolder"}, {"lblNoScans"},
+    {"chkNoHiddenFolder"}, {"chkNoSystemFolder"}, {"chkNoReadOnlyFolder"}, {"chkDelEFol"}, {"fraFiles"},
+    {"lblSearch"}, {"lblFindFiles"}, {"optFileMatch", 3}, {"lblFileName"}, {"dxFileName"}, {"chkRegExFile"},
+    {"fraExtensions"}, {"lblFileExt"}, {"lblDatExt"}, {"optExt", 3}, {"lblExt"}, {"dxExt"}, {"fraFilesize"},
+    {"lblFileSize"}, {"lblFileSizes"}, {"optSize", 3}, {"dxSize"}, {"lblSize"}, {"fraDate"}, {"lblFileAge"},
+    {"lblFDate"}, {"optAge", 5}, {"lblFileAgeType"}, {"optFileAgeType", 3}, {"dxAge"}, {"lblFileAgeDays"},
+    {"dxAgeHours"}, {"lblFileAgeHours"}, {"dxAgeMinutes"}, {"lblFileAgeMinutes"}, {"lblDatefrom"}, {"dxDateFrom"},
+    {"lblDateTo"}, {"dxDateTo"}, {"lblFileDateType"}, {"optFileDate", 3}, {"lblFileDate"}, {"dxFileDate"},
+    {"lblDestTime"}, {"chkDestFileTime", 3}, {"fraAttributes"}, {"lblAttrib"}, {"lblExclAttrib"}, {"lblSourceAttrib"},
+    {"lblDestAttrib"}, {"chkAttrArchive", 3}, {"chkAttrReadOnly", 3}, {"chkAttrSystem", 3}, {"chkAttrHidden", 3},
+    {"chkAttrNormal"}, {"chkAttrComp"}, {"optAttrSetSource", 2}, {"optAttrSetDest", 2}, {"fraCompression"},
+    {"lblDestination"}, {"fraZip"}, {"lblSourceCompress"}, {"chkZipIntStruct"}, {"chkZipAll"}, {"chkZipExtStruct"},
+    {"chkZipDelComp"}, {"chkZipDelCompBin"}, {"chkZipDelCompBinFolder"}, {"lblZipPwd"}, {"dxZipPwd"}, {"lblZipGrade"},
+    {"dxZipGrade"}, {"fraUnZip"}, {"lblDestZDec"}, {"chkDestKeepZStruct"}, {"chkZipDelDeComp"},
+    {"chkZipDelDeCompBin"}, {"lblDestZPwd"}, {"dxDestZipPwd"}, {"lblDestZFilter"}, {"dxDestZFilter"}, {"fraExisting"},
+    {"lblKeepFolders"}, {"lblNoOptionMsg", 2}, {"fraSync"}, {"lblSyncTitle"}, {"lblSyncStart"}, {"optSyncStart", 2},
+    {"lblSyncStartWay", 2}, {"lblSyncFunc"}, {"optSyncExist", 3}, {"chkSyncDelete"}, {"fraZielverzeichnis"},
+    {"chkFStruct"}, {"lblExist"}, {"optExist", 5}, {"lblRenamer"}, {"dxRenamer"}, {"lblAnd"}, {"dxPickRenamer"},
+    {"optRenameSelect", 2}, {"chkDelSourceRename"}, {"lblPickExistSelecter"}, {"dxPickExistSelecter"},
+    {"lblExistTime"}, {"optExtFileTime", 3}, {"chkDelTypeSource"}, {"chkDelEFolSource"}, {"fraExistingUnzip"},
+    {"lblDestZExist"}, {"optUnZip", 3},
+});
+// clang-format on
+
 /// The controls are declared page by page, each row: kind, name, frame it stands in, design-time value. A rule reads
 /// them as members; tables and drivers find them by name.
 struct KESTEDIT_EXPORT FormModel : ControlRegistry {

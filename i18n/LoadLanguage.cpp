@@ -7,9 +7,9 @@
 #include <utility>
 #include <vector>
 
+#include "i18n/Captions.h"
 #include "i18n/Catalogue.h"
 #include "i18n/PickLists.h"
-#include "i18n/Texts.h"
 #include "i18n/modMessages.h"
 
 namespace kestedit {
@@ -128,19 +128,11 @@ void loadWeekdays(FormModel& form, const modIniHandler& texts) {
     ReplaceItems(form.dxIntWeekDay, std::move(days));
 }
 
-// Labels of fields and groups that the first language files had no text of their own for.
-void labelTheRest(FormModel& form, const modIniHandler& texts) {
+// Labels of fields whose texts were in the catalogue from the start.
+void labelByCatalogue(FormModel& form) {
     form.lblIntWeekDay.Caption = form.TextCatalogue.at(catalogue::weekDay);
     form.lblIntMonthDay.Caption = form.TextCatalogue.at(catalogue::monthDay);
     form.lblPickExistSelecter.Caption = form.TextCatalogue.at(catalogue::replaceIf);
-    // Without a language file the options have no captions, and a heading above nothing helps nobody.
-    const auto headed = [&](const EditorControl& option, TextId heading) {
-        return option.Caption.empty() ? std::string{} : textOf(texts, heading);
-    };
-    form.lblFileAgeType.Caption = headed(form.optFileAgeType[0], TextId::whichTimeStamp);
-    form.lblFileDateType.Caption = headed(form.optFileDate[0], TextId::whichDates);
-    form.lblSyncStartWay[0].Caption = headed(form.optSyncStart[SyncStart::oneWay], TextId::oneWay);
-    form.lblSyncStartWay[1].Caption = headed(form.optSyncStart[SyncStart::bothWays], TextId::bothWays);
 }
 
 }  // namespace
@@ -153,7 +145,8 @@ void LoadLanguage(FormModel& form, const modIniHandler& texts) {
     FillPickLists(form);
     loadLocalizer(form, texts);
     loadWeekdays(form, texts);
-    labelTheRest(form, texts);
+    labelByCatalogue(form);
+    LoadCaptions(form, texts);
 }
 
 }  // namespace kestedit

@@ -13,7 +13,7 @@ struct TextRow {
     std::string_view section;
     std::string_view key;
     std::string_view german;
-    std::string_view english = {};  ///< empty: a text that every language file has had from the start
+    std::string_view english = {};
 };
 
 using enum TextId;
@@ -128,10 +128,6 @@ constexpr auto rows = std::to_array<TextRow>({
     {pageApplies,            "Window",         "t8",   "Diese Seite ändert, was der Auftrag tut", "This page changes what the job does"},
     {pageDoesNotApply,       "Window",         "t9",   "Diese Seite gilt für diesen Modus nicht", "This page does not apply to this mode"},
     {allFiles,               "Window",         "t120", "Alle Dateien", "All files"},
-    {whichTimeStamp,         "Window",         "t121", "Welcher Zeitstempel zählt", "Which time stamp counts"},
-    {whichDates,             "Window",         "t122", "Die Dateien sind", "The files are"},
-    {oneWay,                 "Window",         "t123", "(einseitig)", "(one way)"},
-    {bothWays,               "Window",         "t124", "(gegenseitig)", "(both ways)"},
 });
 // clang-format on
 
@@ -170,8 +166,12 @@ std::string filledIn(std::string_view text, const Values& values) {
 
 std::string textOf(const modIniHandler& language, TextId id) {
     const TextRow& row = rows.at(static_cast<std::size_t>(id));
-    const bool inEnglish = !row.english.empty() && !isGerman(language);
-    return language.ReadLanguageText(row.section, row.key, inEnglish ? row.english : row.german, textSize);
+    return textOf(language, {row.section, row.key, row.german, row.english});
+}
+
+std::string textOf(const modIniHandler& language, const KeyedText& text) {
+    const bool inEnglish = !text.english.empty() && !isGerman(language);
+    return language.ReadLanguageText(text.section, text.key, inEnglish ? text.english : text.german, textSize);
 }
 
 std::string textOf(const modIniHandler& language, TextId id, std::initializer_list<std::string_view> values) {

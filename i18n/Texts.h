@@ -131,12 +131,17 @@ enum class TextId : std::uint8_t {
     pageDoesNotApply,
     // captions that the first language files had no text for
     allFiles,
-    whichTimeStamp,
-    whichDates,
-    oneWay,
-    bothWays,
     count
 };
+
+/// A text of the language file and what stands in for it.
+struct KeyedText {
+    std::string_view section;
+    std::string_view key;
+    std::string_view german;
+    std::string_view english = {};  ///< empty: every language file has had the text from the start
+};
+[[nodiscard]] std::string textOf(const modIniHandler& language, const KeyedText& text);
 
 /// The text as the language file has it. One that the file lacks comes in German when the file is German or missing,
 /// otherwise in English (those that came with the first language files have a German form only).

@@ -21,8 +21,8 @@
 #include "desktop/DesktopPrompts.h"
 #include "desktop/FormWindow.h"
 #include "desktop/OutlineStyle.h"
-#include "editor/frmEdit.h"
 #include "editor/Views.h"
+#include "editor/frmEdit.h"
 
 namespace {
 

@@ -135,8 +135,7 @@ int caretInSameNumber(const QString& typed, int caret, const QString& shown) {
 /// A date or a time of day: what is typed is read by the form.
 class MomentBinding : public ValueBinding<MomentEdit> {
   public:
-    MomentBinding(EditorControl& control, MomentEdit& edit, EventGate& gate)
-        : ValueBinding(control, edit, gate) {
+    MomentBinding(EditorControl& control, MomentEdit& edit, EventGate& gate) : ValueBinding(control, edit, gate) {
         QObject::connect(&edit, &MomentEdit::typed, &edit, [this](const QString& text) {
             hand([this, typed = fromQt(text)](frmEdit& form) { form.onTextTyped(this->control(), typed); });
         });

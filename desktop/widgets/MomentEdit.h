@@ -6,7 +6,8 @@
 
 namespace kestedit {
 
-/// Reads nothing itself: it tells what is typed and how many steps the user wants. However it gets the focus, typing replaces the whole text, unless a second click has set the caret.
+/// Reads nothing itself: it tells what is typed and how many steps the user wants. However it gets the focus, typing
+/// replaces the whole text, unless a second click has set the caret.
 class MomentEdit : public QAbstractSpinBox {
     Q_OBJECT
 

@@ -43,8 +43,13 @@ TEST_F(Keyboard, TabWalksThePageInTheFormsSequence) {
             EXPECT_TRUE(std::ranges::is_sorted(walk, {}, &EditorControl::TabIndex));
             // All that a user could act on is reached; an option group counts as one stop, its arrows lead on.
             std::set<std::string_view> reached;
-            for (const EditorControl* control : walk)
-                reached.insert(control->Base);
+            for (const EditorControl* control : walk) {
+                const bool again = !reached.insert(control->Base).second;
+                const auto group = form().group(control->Base);
+                const bool chosen =
+                    control->Kind == ControlKind::option && std::ranges::any_of(group, &EditorControl::isSet);
+                EXPECT_FALSE(again && chosen) << control->Name() << " is a stop of its own";
+            }
             for (const auto& binding : window().binder().bindings()) {
                 const EditorControl& control = binding->control();
                 if (binding->focusWidgets().empty() || !binding->widget().isVisible() || !binding->widget().isEnabled())
@@ -53,6 +58,14 @@ TEST_F(Keyboard, TabWalksThePageInTheFormsSequence) {
             }
         }
     }
+}
+
+TEST_F(Keyboard, ARightClickTurnsNoPage) {
+    open();
+    const QRect row = list().visualItemRect(list().topLevelItem(3));
+    QTest::mouseClick(list().viewport(), Qt::RightButton, Qt::NoModifier, row.center());
+    settle();
+    EXPECT_EQ(visibleFrames(), "fraComment");
 }
 
 TEST_F(Keyboard, KeysWalkTheListThePageFollowsAndArrowsLeadThroughAnOptionGroup) {

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "desktop/DesktopPrompts.h"
+#include "desktop/DesktopRun.h"
 #include "desktop/NewFolderWindow.h"
 #include "tests/desktop/WindowFixture.h"
 
@@ -81,6 +82,38 @@ TEST_F(Questions, ThatCameWhileTypingComeOnceForAFieldAndGiveItBack) {
     EXPECT_EQ(line("dxName").text(), "ab");
     EXPECT_EQ(prompts.messages.size(), 1U);
     EXPECT_EQ(window().focusWidget(), &line("dxName"));
+}
+
+TEST_F(Questions, ButtonsSayTheirAnswersInTheLanguageOfTheForm) {
+    DesktopRun run;
+    prompts.answers = {};
+    QTimer::singleShot(0, qApp, [&] {
+        const std::tuple<QMessageBox::StandardButton, const char*> captions[] = {
+            {QMessageBox::Yes, "Ja"}, {QMessageBox::No, "Nein"}, {QMessageBox::Cancel, "Abbrechen"}};
+        whenAsked<QMessageBox>([&](QMessageBox& box) {
+            for (const auto& [button, caption] : captions)
+                EXPECT_EQ(withoutMnemonic(box.button(button)->text()), caption);
+            box.reject();
+        });
+        (void)run.prompts().showMessage({"Title", "Text", Buttons::yesNoCancel, MessageIcon::none});
+        whenAsked<QMessageBox>([&](QMessageBox& box) {
+            EXPECT_EQ(withoutMnemonic(box.button(QMessageBox::Ok)->text()), "OK");
+            box.accept();
+        });
+        (void)run.prompts().showMessage({"Title", "Text", Buttons::ok, MessageIcon::none});
+        form().onCloseBox();
+        QApplication::closeAllWindows();
+    });
+    run.run(create());
+}
+
+TEST_F(Questions, FileChooserGivesTheFile) {
+    const auto program = folder.file("run me.sh", "");
+    whenAsked<QFileDialog>([&](QFileDialog& chooser) {
+        chooser.selectFile(toQt(program.string()));
+        static_cast<QDialog&>(chooser).done(QDialog::Accepted);
+    });
+    EXPECT_EQ(questions.chooseFile({"Choose", "Alle|*", 1, 4100}), program);
 }
 
 TEST_F(Questions, FolderChooserOpensAtTheFolderAndTellsTheSelection) {

@@ -1,5 +1,4 @@
 // A job comes back as it was saved, and a form looks the same however it came to its choices.
-#include <random>
 #include <set>
 
 #include "editor/rules/RefreshPageStates.h"
@@ -27,13 +26,10 @@ struct RoundTrip : EditorTest {
         changed.insert(control.Name());
     }
 
-    /// Changes a control that is drawn by lot, if a user can reach it; no value that its event does not decide.
-    void changeOne(std::mt19937& random) {
-        std::vector<EditorControl*> inputs;  // what only shows does not change what is drawn
-        for (EditorControl* control : form().controls())
-            if (control->Kind > ControlKind::nodeList) inputs.push_back(control);
-        EditorControl& drawn = *inputs[random() % inputs.size()];
-        if (&drawn == &form().chkEditPaths || form().obstacle(drawn)) return;
+    /// Changes a control, if a user can reach it; no value that its event does not decide.
+    void changeOne(EditorControl& drawn) {
+        const bool isInput = drawn.Kind > ControlKind::nodeList && &drawn != &form().chkEditPaths;
+        if (!isInput || form().obstacle(drawn)) return;
         const auto otherValues = [&] {
             std::vector<std::pair<int, Value>> others;
             for (const EditorControl* control : form().controls())
@@ -48,11 +44,20 @@ struct RoundTrip : EditorTest {
 
     /// Each action in turn, in an editor that hides and in one that disables, and what its choices require.
     void makeAnyJob(unsigned seed) {
-        std::mt19937 random(seed);
         folder.file("program.ini", seed % 12 < 6 ? "" : "[EditWin]\nDisableInsteadOfHide=1\n");
         create();
-        for (int event = 0; event < 500; ++event)
-            changeOne(random);
+        // All controls in their order a few times, of each group another member and in each job others left out.
+        for (unsigned round = 0; round < 6; ++round) {
+            unsigned place = round * (seed % 5 + 1) + seed;
+            for (EditorControl* control : form().controls()) {
+                if (++place % (seed % 4 + 2) != 0) changeOne(*control);
+                const auto group = form().group(control->Base);
+                if (control->Kind != ControlKind::option || control != group.back()) continue;
+                const std::size_t chosen =
+                    control->Base == "optAction" ? seed + round : seed / 6 + round / 2 + seed % group.size();
+                changeOne(*group[chosen % group.size()]);
+            }
+        }
         act(static_cast<int>(seed % 6));
         for (const auto name :
              {"chkSubFolder", "chkZipAll", "chkZipExtStruct"}) {  // two that the lot seldom has at once

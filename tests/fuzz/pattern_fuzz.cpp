@@ -14,7 +14,8 @@ Match tried(std::string_view text, std::string_view name, Pattern::Letters lette
     try {
         return Pattern::regularExpression(text, letters).matches(name);
     } catch (const PatternMistake& mistake) {
-        require(mistake.position() >= 1 && mistake.position() <= characterCount(text), "a mistake stands in the pattern");
+        require(mistake.position() >= 1 && mistake.position() <= characterCount(text),
+                "a mistake stands in the pattern");
         return Match::limitExceeded;
     }
 }

@@ -221,6 +221,22 @@ TEST_F(ScriptTest, AnswersAreQueuedAheadAlsoForTheLoadingForm) {
         << answered.out;
 }
 
+TEST_F(ScriptTest, FolderVariablesThatAreRelativeCountAsUnset) {
+    environment = "XDG_CONFIG_HOME=here XDG_DATA_HOME=there";
+    EXPECT_EQ(kestedit("script new - <<'EOF'\ncheck chkEditPaths 0\ntype dxName a\nclick cmdSave\nEOF\n").code, 0);
+    EXPECT_TRUE(std::filesystem::exists(home() / ".config/kestedit/program.ini"));
+    EXPECT_TRUE(std::filesystem::exists(home() / ".local/share/kestedit/a.job"));
+    EXPECT_EQ(folder.names(), "home ");
+}
+
+TEST_F(ScriptTest, TheLanguageOfTheLocaleIsToldByItsFirstLetters) {
+    for (const auto& [locale, caption] :
+         {std::pair{"de.UTF-8", "&Speichern"}, {"de_AT@euro", "&Speichern"}, {"den", "&Save"}}) {
+        environment = "LC_MESSAGES="s + locale + " LC_ALL=";
+        EXPECT_NE(script("new", "print cmdSave.Caption\n").out.find(caption), std::string::npos) << locale;
+    }
+}
+
 TEST_F(ScriptTest, TextsOfTheProgramStandInTheirPageWhateverTheJobsHave) {
     environment = "LANG=de_DE.UTF-8 LC_ALL=de_DE.UTF-8";
     const auto result =
