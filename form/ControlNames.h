@@ -13,7 +13,7 @@ namespace kestedit {
 /// Whether `name` is a control: "dxName", "optExist(2)".
 [[nodiscard]] constexpr bool isControl(std::string_view name) {
     const auto open = name.find('(');
-    const auto* const found = std::ranges::find(controlNames, name.substr(0, open), &ControlName::base);
+    const auto* const found = std::ranges::find(controlNames, name.substr(0, open), &NamedControl::base);
     if (found == controlNames.end()) return false;
     if (open == std::string_view::npos) return found->members == 0;
     const std::string_view index = name.substr(open + 1);
@@ -22,7 +22,7 @@ namespace kestedit {
 
 /// Whether `name` is a control that stands alone or the base name of an array: "dxName", "optExist".
 [[nodiscard]] constexpr bool isControlBase(std::string_view name) {
-    return std::ranges::find(controlNames, name, &ControlName::base) != controlNames.end();
+    return std::ranges::find(controlNames, name, &NamedControl::base) != controlNames.end();
 }
 
 /// Whether each row of a table names a control, or where the row may be about a whole array its base name.

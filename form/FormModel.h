@@ -33,7 +33,7 @@ inline constexpr std::size_t catalogueSize = 85;
 inline constexpr std::size_t replaceIfCount = 8;
 inline constexpr std::size_t localizerSize = 13;
 
-struct ControlName {
+struct NamedControl {
     std::string_view base;
     int members = 0;  ///< of a control array; 0: the control stands alone
 };
@@ -41,7 +41,7 @@ struct ControlName {
 /// The controls below by their names, in their order: tables that name controls are checked against it when they are
 /// compiled (form/ControlNames.h). Test: FormModel.HasTheControlsOfTheListOfNames.
 // clang-format off
-inline constexpr auto controlNames = std::to_array<ControlName>({
+inline constexpr auto controlNames = std::to_array<NamedControl>({
     {"dxTreeList1"}, {"cmdPrevious"}, {"cmdNext"}, {"cmdCancel"}, {"cmdSave"}, {"Image1"}, {"fraComment"},
     {"lblNamePath"}, {"lblName"}, {"dxName"}, {"lblComment"}, {"dxComment"}, {"fraMode"}, {"lblModus"},
     {"optAction", 6}, {"lblDeleteFiles"}, {"chkDelType"}, {"lblModeSub"}, {"chkPreview"}, {"chkOnlyCompare"},

@@ -11,7 +11,7 @@ namespace {
 // Tables are checked against the list when they are compiled, so the list must be the form's.
 TEST(FormModel, HasTheControlsOfTheListOfNames) {
     std::string listed;
-    for (const ControlName& name : controlNames) {
+    for (const NamedControl& name : controlNames) {
         for (int member = name.members == 0 ? -1 : 0; member < name.members; ++member)
             listed += std::string{name.base} + (member < 0 ? "" : "(" + std::to_string(member) + ")") + "\n";
     }
