@@ -95,8 +95,9 @@ void saveJob(benchmark::State& state) {
     FilledForm form(file);
     IniStore ini;
     const JobStore jobs{ini};
+    const OpenedJob opened{file, jobs.read(file), {}};
     for (auto _ : state)
-        jobs.change(file).save(SaveValues(form, dates, now));
+        jobs.change(opened).save(SaveValues(form, dates, now));
 }
 BENCHMARK(saveJob)->UseRealTime();
 

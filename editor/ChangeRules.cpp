@@ -25,6 +25,7 @@ namespace {
 struct ChangeRule {
     std::string_view control;
     void (*run)(FormModel& form, int member);
+    bool whenOpened = false;  ///< the rule also follows from what a job holds that was just loaded, or from a new one
 };
 
 template <void (*... Rules)(FormModel&)>
@@ -121,6 +122,11 @@ static_assert(namesControlBases(changeRuleRows, &ChangeRule::control), "a rule n
 static_assert(namesNoneTwice(changeRuleRows, &ChangeRule::control), "a control has two rules");
 
 }  // namespace
+
+void RunRulesOfOpening(FormModel& form) {
+    for (const ChangeRule& rule : changeRuleRows)
+        if (rule.whenOpened) rule.run(form, 0);
+}
 
 void RunChangeRule(FormModel& form, const EditorControl& control) {
     const auto* const rule = std::ranges::find(changeRuleRows, control.Base, &ChangeRule::control);

@@ -132,7 +132,7 @@ bool isAgeZero(const FormModel& form) {
 }
 
 Noticed freeSpace(const FormModel& form) {
-    if (!form.chkFreeSpace.isSet() || form.dxFreeSpace.number() >= leastFreeSpace) return std::nullopt;
+    if (form.dxFreeSpace.number() >= leastFreeSpace) return std::nullopt;
     return Notice{TextId::freeSpaceRaised, {std::to_string(leastFreeSpace)}};
 }
 
@@ -170,6 +170,7 @@ constexpr auto noticeRules = std::to_array<NoticeRule>({
     {"dxDate",            whenLeft, [](const F& form) { return when(runsOn(form, RunTime::onDate) && form.dxDate.isEmpty(), TextId::dateMissing); }},
     {"optMonitorPath(0)", atOnce,   monitoredDestination},
     {"dxMonitorPath",     whenLeft, [](const F& form) { return relative(form.dxMonitorPath); }},
+    {"chkFreeSpace",      whenLeft, [](const F& form) { return form.chkFreeSpace.isSet() ? std::nullopt : freeSpace(form); }},
     {"dxFreeSpace",       whenLeft, freeSpace},
     {"dxExecPath",        whenLeft, [](const F& form) { return when(form.chkExecDo.isSet() && form.dxExecPath.isEmpty(), TextId::programMissing); }},
     {"dxFolderMatch",     atOnce,   [](const F& form) { return dropped(form, form.dxFolderMatch, TextId::droppedFromFolderMatch); }},
@@ -180,7 +181,7 @@ constexpr auto noticeRules = std::to_array<NoticeRule>({
     {"dxFileName",        whenLeft, [](const F& form) { return required(form, form.dxFileName); }},
     {"dxExt",             atOnce,   [](const F& form) { return dropped(form, form.dxExt, TextId::droppedFromExtensions); }},
     {"dxExt",             whenLeft, [](const F& form) { return required(form, form.dxExt); }},
-    {"dxSize",            whenLeft, [](const F& form) { return when(!form.optSize[SizeLimit::any].isSet() && form.dxSize.isEmpty(), TextId::sizeMissing); }},
+    {"dxSize",            whenLeft, [](const F& form) { return when(!form.optSize[SizeLimit::any].isSet() && form.dxSize.isEmpty() && !form.dxSize.Unread, TextId::sizeMissing); }},
     {"dxAge",             whenLeft, [](const F& form) { return when(isAgeZero(form), TextId::ageZero); }},
     {"dxDateTo",          whenLeft, [](const F& form) { return when(areDatesReversed(form), TextId::datesReversed); }},
     {"dxZipPwd",          atOnce,   password},
@@ -194,10 +195,7 @@ static_assert(namesControls(noticeRules, &NoticeRule::control), "a notice names 
 
 /// What can be wrong with any control: a stored value that it cannot show, a number outside of its range.
 Noticed ofAnyControl(const EditorControl& control) {
-    if (control.Unread) return Notice{TextId::unreadValue, {*control.Unread}};
-    if (control.Kind == ControlKind::pick && control.ItemIndex >= 0 && !control.itemIndex()) {
-        return Notice{TextId::unreadValue, {std::to_string(control.ItemIndex)}};
-    }
+    if (control.Unread) return Notice{TextId::unreadValue, {quotable(*control.Unread)}};
     const auto* const number = std::get_if<std::int64_t>(&control.EditValue);
     if (!number) return std::nullopt;
     const NumberRange range = numberRange(control.Base);

@@ -65,19 +65,18 @@ void JobCharacters::require(const EditorControl& field, std::string_view text, E
 }
 
 bool JobCharacters::agreeToSave() {
-    if (jobs_.writesAsUtf8()) return true;
-    std::vector<std::string> texts;
-    std::string open;  // those that may be told
+    std::string open;  // what may be told
+    bool password = false;
     for (const EditorControl* control : form_.controls()) {
         const std::string stored = storedTexts(*control);
-        texts.push_back(page().encode(stored).value_or(""));
-        if (control->Kind != ControlKind::password) open += stored;
+        const bool secret = control->Kind == ControlKind::password;
+        password = password || (secret && !isAscii(stored));
+        if (!secret) open += stored;
     }
-    const std::vector<std::string_view> stored(texts.begin(), texts.end());
-    if (page().recognise(stored).number() == page().number()) return true;
     const std::string names = CharacterNames(open, [](std::string_view character) { return !isAscii(character); });
-    const std::string reason =
-        names.empty() ? textOf(texts_, TextId::unstorablePassword) : textOf(texts_, TextId::readAsOthers, {names});
+    const bool onlySecret = names.empty() && password;
+    const std::string reason = onlySecret ? textOf(texts_, TextId::unstorablePassword)
+                                          : textOf(texts_, TextId::readAsOthers, {names.empty() ? "…" : names});
     if (!unconvertibleLine_) return agree(reason);
     (void)platform_.prompts.showMessage({textOf(texts_, TextId::saveTitle), reason + "\r\n\r\n" + unconvertibleText(),
                                          Buttons::ok, MessageIcon::error});

@@ -38,8 +38,8 @@ class KESTEDIT_EXPORT JobCharacters {
     /// The user has left the field.
     void editingFinished() { declined_ = nullptr; }
 
-    /// Whether a save may go on. In a rare job the bytes of the code page happen to be UTF-8, too, and would be read as
-    /// that: the user is asked for UTF-8 here as well.
+    /// Whether a save may go on whose bytes of the code page happen to be UTF-8, too, and would be read as that: the
+    /// user is asked for UTF-8 here as well.
     [[nodiscard]] bool agreeToSave();
 
   private:

@@ -27,17 +27,6 @@ std::string valueText(const EditorControl& control, const Platform& platform) {
     return control.text();
 }
 
-/// As much of a text as a notice has room for.
-std::string quotable(std::string_view text) {
-    constexpr int most = 40;
-    std::string quoted;
-    for (int i = 0; !text.empty(); ++i) {
-        if (i == most) return quoted + "...";
-        appendCharacter(quoted, takeCharacter(text).codePoint);
-    }
-    return quoted;
-}
-
 std::string sampleOf(const EditorControl& control, const Platform& platform) {
     constexpr Date sampleDate{std::chrono::year{2026}, std::chrono::December, std::chrono::day{31}};
     constexpr TimeOfDay sampleTime = std::chrono::hours{14} + std::chrono::minutes{5};

@@ -6,6 +6,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "editor/ChangeRules.h"
 #include "editor/FieldNotices.h"
 #include "editor/NodeImages.h"
 #include "editor/Views.h"
@@ -136,6 +137,7 @@ void frmEdit::loadJob() {
     const std::string comment = ini_.ReadIniFileValue("Job", "Comment", "", values_.JobFile, textSize);
     GetValues(*this, job, comment, platform_.dates, platform_.clock.now().date);
     ApplyLoadedChoices(*this);
+    RunRulesOfOpening(*this);
     if (DateFormatChanged) tellDateChange();
 }
 
@@ -151,6 +153,7 @@ void frmEdit::applyNewJob() {
     SetNewJobDefaults(*this, platform_.clock.now());
     ApplyAction(*this);
     ApplyLoadedChoices(*this);
+    RunRulesOfOpening(*this);
     const View* const view = viewOf(*this);
     if (view && view->marksReducedOnNew) SetNodeImage(*this, Page::reduced, image::doesNotApply);
 }

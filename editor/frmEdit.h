@@ -144,7 +144,7 @@ class KESTEDIT_EXPORT frmEdit : public FormModel {
     void saveEdited(const std::string& name);
     [[nodiscard]] Answer askForName(Buttons buttons, TextId firstLine);
     [[nodiscard]] bool confirmOverwrite(TextId question);
-    void create(const std::string& file);
+    [[nodiscard]] bool create(const std::string& file);
     [[nodiscard]] bool saveOpened(const std::filesystem::path& target);
     [[nodiscard]] Answer askWhoseValues(const std::vector<BothChanged>& keys);
     [[nodiscard]] std::string jobPath(const std::string& name) const;

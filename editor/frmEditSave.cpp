@@ -73,7 +73,7 @@ void frmEdit::save() {
         if (control->Typed) onEditingFinished(*control);
     typing_ = nullptr;
     refreshNotices();
-    if (!validate() || !characters_.agreeToSave()) return;
+    if (!validate()) return;
     const std::string name{trimBlanks(dxName.text())};
     if (values_.Mode == "New") return saveNew(name);
     if (values_.Mode == "Edit") return saveEdited(name);
@@ -89,7 +89,7 @@ void frmEdit::saveNew(const std::string& name) {
     if (platform_.files.FileExists(file) && !confirmOverwrite(TextId::overwriteNew)) {
         return;
     }
-    create(file);
+    if (!create(file)) return;
     values_.JobFile = file;
     close();
 }
@@ -106,12 +106,11 @@ void frmEdit::saveEdited(const std::string& name) {
     const std::string file = renamed ? jobPath(name) : values_.JobFile;
     const bool own = opened_ && platform_.files.isSameFile(opened_->file, file);
     if (!own && platform_.files.FileExists(file)) {
-        if (!confirmOverwrite(TextId::overwriteEdited)) return;
-        create(file);
+        if (!confirmOverwrite(TextId::overwriteEdited) || !create(file)) return;
     } else if (opened_ && (own || renamed)) {
         if (!saveOpened(renamed ? std::filesystem::path(file) : opened_->file)) return;
-    } else {
-        create(file);
+    } else if (!create(file)) {
+        return;
     }
     if (renamed) {
         // What was saved is a job of another name now, which the host has to look for.
@@ -121,10 +120,13 @@ void frmEdit::saveEdited(const std::string& name) {
     close();
 }
 
-void frmEdit::create(const std::string& file) {
+/// False when the user goes back to the form, as of saveOpened.
+bool frmEdit::create(const std::string& file) {
     const auto lines = SaveValues(*this, platform_.dates, platform_.clock.now());
+    if (!jobs_.readsBack(file, lines) && !characters_.agreeToSave()) return false;
     jobs_.create(file, lines, opened_ ? opened_->file : std::filesystem::path{});
     CorrectValues(*this);
+    return true;
 }
 
 /// Writes the job over what its file holds now, which may be another program's work. False when the user goes back to
@@ -134,9 +136,13 @@ bool frmEdit::saveOpened(const std::filesystem::path& target) {
     Winner winner = Winner::mine;
     std::vector<BothChanged> answered;
     for (;;) {
-        JobChange change = jobs_.change(opened_->file);
+        JobChange change = jobs_.change(*opened_);
         const JobMerge merge = MergeJob(lines, *opened_, change.present(), winner);
         if (merge.conflicts == answered) {
+            if (!change.readsBack(merge.lines)) {
+                if (!characters_.agreeToSave()) return false;
+                continue;  // anew, as UTF-8
+            }
             target == opened_->file ? change.save(merge.lines) : change.saveAs(target, merge.lines);
             CorrectValues(*this);
             return true;

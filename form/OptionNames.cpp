@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
+#include <string>
 
 #include "form/ControlNames.h"
 
@@ -117,7 +119,12 @@ std::string captionOf(const FormModel& form, std::string_view control) {
 
 std::string nameForUsers(const FormModel& form, std::string_view control) {
     const auto* const row = std::ranges::find(names, control, &OptionName::control);
-    if (row == names.end()) return captionOf(form, control);
+    if (row == names.end()) {
+        // A field goes by the label of its name: dxVerify by lblVerify.
+        const std::string label = "lbl" + std::string(control.substr(std::min(control.size(), std::size_t{2})));
+        const std::string own = captionOf(form, control);
+        return own.empty() && form.find(label) ? captionOf(form, label) : own;
+    }
     const std::string heading = captionOf(form, row->heading);
     const std::string name = captionOf(form, row->label.empty() ? control : row->label);
     return heading.empty() || name.empty() ? heading + name : heading + ": " + name;

@@ -19,10 +19,10 @@ struct CaptionRow {
 
 // clang-format off
 constexpr auto captions = std::to_array<CaptionRow>({
-    {"lblFileAgeType",    "t121", "Welcher Zeitstempel zählt", "Which time stamp counts"},
-    {"lblFileDateType",   "t122", "Die Dateien sind",          "The files are"},
-    {"lblSyncStartWay(0)","t123", "(einseitig)",               "(one way)"},
-    {"lblSyncStartWay(1)","t124", "(gegenseitig)",             "(both ways)"},
+    {"lblFileAgeType",     "t121", "Welcher Zeitstempel zählt", "Which time stamp counts"},
+    {"lblFileDateType",    "t122", "Die Dateien sind",          "The files are"},
+    {"lblSyncStartWay(0)", "t123", "(einseitig)",               "(one way)"},
+    {"lblSyncStartWay(1)", "t124", "(gegenseitig)",             "(both ways)"},
 });
 // clang-format on
 

@@ -56,6 +56,8 @@ class Merge {
   private:
     void decide(const JobLine& line) {
         const bool edited = iChanged(line);
+        // A new name is the file's name as well, which no answer to a question about options may take away.
+        if (edited && line.key == "Name") return void(edited_.insert(line.key));
         if (theyChanged(line.key) && !(edited && stands(line))) {
             theirs_.insert(line.key);
         } else if (edited) {

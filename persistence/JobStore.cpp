@@ -16,10 +16,14 @@ bool isPassword(const JobLine& line) {
            !line.value.empty();
 }
 
-StagedFile stageJob(IniStore::Edit& edit, std::span<const JobLine> lines, const fs::path& target,
-                    const fs::path& former) {
+void setAll(IniStore::Edit& edit, std::span<const JobLine> lines) {
     for (const JobLine& line : lines)
         edit.set(line.section, line.key, line.value);
+}
+
+StagedFile stageJob(IniStore::Edit& edit, std::span<const JobLine> lines, const fs::path& target,
+                    const fs::path& former) {
+    setAll(edit, lines);
     const bool secret = std::ranges::any_of(lines, isPassword);
     return edit.stage({StagedFile::Permissions::makeNormal, secret, former}, target);
 }
@@ -32,6 +36,11 @@ bool JobRecord::isJob() const {
 
 std::optional<std::string> JobRecord::field(std::string_view key) const {
     return snapshot_.value(jobSection, key);
+}
+
+bool JobChange::readsBack(std::span<const JobLine> lines) {
+    setAll(edit_, lines);
+    return edit_.readsBack();
 }
 
 void JobChange::save(std::span<const JobLine> lines) {
@@ -52,8 +61,20 @@ IniStore::Edit JobStore::edit(const fs::path& file, bool startEmpty) const {
     return utf8_ ? ini_.editAsUtf8(file, startEmpty) : ini_.edit(file, startEmpty, IniStore::Page::recognised);
 }
 
-JobChange JobStore::change(const fs::path& file) const {
-    return {file, edit(file, false)};
+JobChange JobStore::change(const OpenedJob& job) const {
+    try {
+        (void)ini_.open(job.file, IniStore::Page::recognised);
+    } catch (const std::system_error& failure) {
+        if (failure.code() != std::errc::no_such_file_or_directory) throw;
+        return {job.file, ini_.editAgain(job.file, job.stored.snapshot_, utf8_)};
+    }
+    return {job.file, edit(job.file, false)};
+}
+
+bool JobStore::readsBack(const fs::path& file, std::span<const JobLine> lines) const {
+    IniStore::Edit fresh = edit(file, true);
+    setAll(fresh, lines);
+    return fresh.readsBack();
 }
 
 void JobStore::create(const fs::path& file, std::span<const JobLine> lines, const fs::path& former) const {

@@ -37,6 +37,7 @@ class KESTEDIT_EXPORT JobRecord {
     [[nodiscard]] std::optional<std::size_t> lineOfNoCharacters() const { return snapshot_.lineOfNoCharacters(); }
 
   private:
+    friend class JobStore;
     IniStore::Snapshot snapshot_;
 };
 
@@ -59,9 +60,12 @@ struct OpenedJob {
 /// the old file when anything fails.
 class KESTEDIT_EXPORT JobChange {
   public:
-    /// What the file holds; no job when it has gone.
+    /// What the file holds, or held when it has gone.
     [[nodiscard]] JobRecord present() const { return JobRecord{edit_.base()}; }
 
+    /// Whether a file with these lines would be read back in its code page. It is not where bytes of the page happen to
+    /// be UTF-8, too.
+    [[nodiscard]] bool readsBack(std::span<const JobLine> lines);
     /// Writes all lines in one replacement of the file, in their order.
     void save(std::span<const JobLine> lines);
     /// The same, with the file moving to `target`: at every instant exactly one of both names holds a whole job. The
@@ -89,8 +93,12 @@ class KESTEDIT_EXPORT JobStore {
     /// Throws std::system_error when the file cannot be read, and NoJob when it has no section "Job".
     [[nodiscard]] JobRecord read(const std::filesystem::path& file) const;
 
-    /// Begins with the file as it stands now. Throws std::system_error when it is there and cannot be read.
-    [[nodiscard]] JobChange change(const std::filesystem::path& file) const;
+    /// Begins with the file as it stands now, or as it was opened when it has gone since. Throws std::system_error when
+    /// it is there and cannot be read.
+    [[nodiscard]] JobChange change(const OpenedJob& job) const;
+
+    /// As of a change, for a job that holds these lines alone.
+    [[nodiscard]] bool readsBack(const std::filesystem::path& file, std::span<const JobLine> lines) const;
 
     /// Writes a job that holds these lines alone, and forgets what the file held. A file that is new and holds a
     /// password is for its owner alone; one that is not lets nobody in who could not read `former`, where the job stood

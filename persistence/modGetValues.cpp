@@ -99,19 +99,28 @@ void loadDate(const Loading& load, const JobRow& row, Date replacement) {
     load.control(row).EditValue = date.value_or(replacement);
 }
 
-// The stored number counts from `first`; a position that the list does not have shows nothing and is kept.
+// The stored number counts from `first`, one less means that nothing is picked; a position that the list does not have
+// shows nothing and is kept.
 void loadPick(const Loading& load, const JobRow& row, std::int64_t first) {
+    EditorControl& list = load.control(row);
     const std::string text = load.field(row);
     const auto number = numberIn(text);
-    if (number) load.control(row).pick(*number - first);
-    keepUnread(load.control(row), text, number.has_value());
+    if (number) list.pick(*number - first);
+    keepUnread(list, text, number && (list.itemIndex() || list.ItemIndex == -1));
+}
+
+// A list that counts from 1 has nothing picked when the job says nothing.
+void loadPickFromOne(const Loading& load, const JobRow& row) {
+    if (load.field(row).empty()) load.control(row).pick(-1);
+    loadPick(load, row, 1);
 }
 
 void loadCompressionLevel(const Loading& load, const JobRow& row) {
     const auto level = numberIn(load.field(row));
     if (!level || !std::in_range<int>(*level)) return keepUnread(load.control(row), load.field(row), false);
     load.form.CompressionLevel = static_cast<int>(*level);
-    loadPick(load, row, 1);
+    constexpr std::int64_t highest = 4;  // the list is filled later
+    if (*level < 1 || *level > highest) keepUnread(load.control(row), load.field(row), false);
 }
 
 void loadDuration(const Loading& load, const JobRow& row, const DurationEditors& editors) {
@@ -175,7 +184,7 @@ void loadRow(const Loading& load, const JobRow& row) {
         case listPosition:     return loadPick(load, row, 0);
         case jobName:          return loadName(load, row);
         case renameScheme:
-        case weekDay:          return loadPick(load, row, 1);
+        case weekDay:          return loadPickFromOne(load, row);
         case compressionLevel: return loadCompressionLevel(load, row);
         case ageMinutes:       return loadDuration(load, row, fileAge(form));
         case interval:         return loadDuration(load, row, runInterval(form));

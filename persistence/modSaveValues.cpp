@@ -105,12 +105,17 @@ std::optional<std::string> intervalStateText(const Source& from) {
     return from.dates.text(addDays(from.now.date, -1));
 }
 
+// A size that cannot be read is one all the same: the limit stands with it.
+bool hasNoSize(const FormModel& form) {
+    return form.dxSize.isEmpty() && !form.dxSize.Unread;
+}
+
 // What the job holds and the row's control cannot show. The forms that follow from other controls are not asked.
 std::optional<std::string> unreadOf(const FormModel& form, const JobRow& row) {
     using enum ValueForm;
     const bool follows = (row.form == folderStructure && form.optAction[Action::synchronise].isSet()) ||
                          (row.form == extensionIndex && form.dxExt.isEmpty()) ||
-                         (row.form == sizeIndex && form.dxSize.isEmpty());
+                         (row.form == sizeIndex && hasNoSize(form));
     if (row.control.empty() || follows) return std::nullopt;
     const auto& unread = form.at(row.control).Unread;
     return unread ? std::optional{guarded(*unread)} : std::nullopt;
@@ -142,7 +147,7 @@ std::optional<std::string> valueOf(const Source& from, const JobRow& row) {
         case zero:             return "0";
         case empty:            return "";
         case extensionIndex:   return form.dxExt.isEmpty() ? "0" : indexText(form, row.control).value_or("0");
-        case sizeIndex:        return form.dxSize.isEmpty() ? "0" : indexText(form, row.control).value_or("0");
+        case sizeIndex:        return hasNoSize(form) ? "0" : indexText(form, row.control).value_or("0");
         case renameScheme:     return renameSchemeText(form.dxPickRenamer);
         case comment:          return guarded(storedComment(form));
         case nodeIcon:         return guarded(actionNodeImage(form));

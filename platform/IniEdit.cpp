@@ -6,6 +6,8 @@
 #include <tuple>
 #include <utility>
 
+#include "platform/Ascii.h"
+
 namespace kestedit {
 
 namespace {
@@ -110,9 +112,8 @@ std::string_view IniEdit::text(Stretch stretch) const {
 }
 
 bool IniEdit::readsBack(const CodePage& told) const {
-    const CodePage& page = base_->codePage();
-    const CodePage recognised = told.recognise(pieces());
-    return recognised.number() == page.number() || recognised.decode(texts_) == page.decode(texts_);
+    const auto whole = pieces();
+    return told.recognise(whole).number() == base_->codePage().number() || std::ranges::all_of(whole, isAscii);
 }
 
 std::vector<IniEdit::Replacement> IniEdit::replacementsInOrder() const {

@@ -34,8 +34,8 @@ class IniEdit {
     /// would take for something else.
     void set(std::string_view section, std::string_view key, std::string_view value);
 
-    /// Whether the texts that were set are read back as they are by whoever recognises the page of the whole file, and
-    /// takes `told` where nothing is to be recognised.
+    /// Whether the file is read back in its page by whoever recognises the page of the whole, and takes `told` where
+    /// nothing is to be recognised.
     [[nodiscard]] bool readsBack(const CodePage& told) const;
 
     /// The whole content in order. The pieces are valid until the next set and as long as this object lives.

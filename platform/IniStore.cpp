@@ -42,6 +42,7 @@ struct IniStore::Impl {
     std::error_code lastError;
 
     SharedText baseOf(const fs::path& file, bool startEmpty, Page reading);
+    [[nodiscard]] Edit editOf(const fs::path& file, SharedText base, Page reading) const;
 };
 
 struct IniStore::Snapshot::Impl {
@@ -129,26 +130,38 @@ SharedText IniStore::Impl::baseOf(const fs::path& file, bool startEmpty, Page re
     return std::make_shared<const IniText>(files.pageOf(file));
 }
 
-IniStore::Edit IniStore::edit(const fs::path& file, bool startEmpty, Page page) {
+namespace {
+
+/// Every line in UTF-8; throws std::system_error when one holds bytes that are no characters.
+SharedText inUtf8(SharedText text, const fs::path& file) {
+    if (text->codePage().number() == CodePage::utf8) return text;
+    std::optional<IniText> converted = text->inUtf8();
+    if (!converted) {
+        throw systemFailure("convert line " + std::to_string(text->lineOfNoCharacters().value_or(0)) + " to UTF-8 in",
+                            file, std::make_error_code(std::errc::illegal_byte_sequence));
+    }
+    return std::make_shared<const IniText>(std::move(*converted));
+}
+
+}  // namespace
+
+IniStore::Edit IniStore::Impl::editOf(const fs::path& file, SharedText base, Page reading) const {
     std::optional<CodePage> told;
-    if (page == Page::recognised) told = impl_->files.pageOf(file);
-    SharedText base = impl_->baseOf(file, startEmpty, page);
-    return Edit(std::make_unique<Edit::Impl>(Edit::Impl{file, base, IniEdit(base), told}));
+    if (reading == Page::recognised) told = files.pageOf(file);
+    IniEdit edit(base);
+    return Edit(std::make_unique<Edit::Impl>(Edit::Impl{file, std::move(base), std::move(edit), told}));
+}
+
+IniStore::Edit IniStore::edit(const fs::path& file, bool startEmpty, Page page) {
+    return impl_->editOf(file, impl_->baseOf(file, startEmpty, page), page);
 }
 
 IniStore::Edit IniStore::editAsUtf8(const fs::path& file, bool startEmpty) {
-    SharedText base = impl_->baseOf(file, startEmpty, Page::recognised);
-    if (base->codePage().number() != CodePage::utf8) {
-        std::optional<IniText> converted = base->inUtf8();
-        if (!converted) {
-            throw systemFailure(
-                "convert line " + std::to_string(base->lineOfNoCharacters().value_or(0)) + " to UTF-8 in", file,
-                std::make_error_code(std::errc::illegal_byte_sequence));
-        }
-        base = std::make_shared<const IniText>(std::move(*converted));
-    }
-    const CodePage& told = impl_->files.pageOf(file);
-    return Edit(std::make_unique<Edit::Impl>(Edit::Impl{file, base, IniEdit(base), told}));
+    return impl_->editOf(file, inUtf8(impl_->baseOf(file, startEmpty, Page::recognised), file), Page::recognised);
+}
+
+IniStore::Edit IniStore::editAgain(const fs::path& file, const Snapshot& base, bool asUtf8) {
+    return impl_->editOf(file, asUtf8 ? inUtf8(base.impl_->text, file) : base.impl_->text, Page::recognised);
 }
 
 IniStore::Snapshot::Snapshot(std::unique_ptr<Impl> impl) : impl_(std::move(impl)) {}
@@ -187,12 +200,16 @@ IniStore::Snapshot IniStore::Edit::base() const {
     return Snapshot(std::make_unique<Snapshot::Impl>(Snapshot::Impl{impl_->base}));
 }
 
+bool IniStore::Edit::readsBack() const {
+    return !impl_->told || impl_->edit.readsBack(*impl_->told);
+}
+
 StagedFile IniStore::Edit::stage(const StagedFile::Access& access) const {
     return stage(access, impl_->file);
 }
 
 StagedFile IniStore::Edit::stage(const StagedFile::Access& access, const fs::path& target) const {
-    if (impl_->told && !impl_->edit.readsBack(*impl_->told)) {
+    if (!readsBack()) {
         throw systemFailure("keep all characters in", target, std::make_error_code(std::errc::illegal_byte_sequence));
     }
     return {target, std::span<const std::string_view>(impl_->edit.pieces()), access};

@@ -74,6 +74,9 @@ class KESTEDIT_EXPORT IniStore {
     /// std::system_error, too, when one of them holds bytes that are no characters of the page they stand in.
     [[nodiscard]] Edit editAsUtf8(const std::filesystem::path& file, bool startEmpty);
 
+    /// The same for a file that has gone and is to come back: begins with `base`, what it held once.
+    [[nodiscard]] Edit editAgain(const std::filesystem::path& file, const Snapshot& base, bool asUtf8);
+
   private:
     struct Impl;
     std::unique_ptr<Impl> impl_;
@@ -128,9 +131,12 @@ class KESTEDIT_EXPORT IniStore::Edit {
     /// What the file held when the edit began; the same whatever is set.
     [[nodiscard]] Snapshot base() const;
 
+    /// Whether the file, as it is now, would be read back in its page by whoever recognises it. Always so for one whose
+    /// page is not recognised.
+    [[nodiscard]] bool readsBack() const;
+
     /// Writes and syncs the whole content to a temporary file beside the file, or beside `target`, whose place it is to
-    /// take then. Throws std::system_error, also when a file whose page is recognised would be taken for one of another
-    /// page and the texts that were set for others.
+    /// take then. Throws std::system_error, also when the file would not be read back in its page.
     [[nodiscard]] StagedFile stage(const StagedFile::Access& access) const;
     [[nodiscard]] StagedFile stage(const StagedFile::Access& access, const std::filesystem::path& target) const;
 

@@ -178,7 +178,7 @@ void StagedFile::commitReplacing(const fs::path& formerTarget) {
         moveFile(formerTarget, target_);
         commit();
         if (!mayBeOneFile(formerTarget, target_)) deleteFile(formerTarget);
-    } else if (place_ != target_ && mayBeOneFile(formerTarget, place_)) {
+    } else if (const auto behind = entryAt(place_); place_ != target_ && behind && isSameFile(*former, *behind)) {
         commit();  // the target is a link to the former file, which holds the job from now on
     } else {
         commit();

@@ -112,6 +112,16 @@ bool hasShape(char32_t codePoint) {
     return locale != locale_t{} && iswgraph_l(static_cast<wint_t>(codePoint), locale) != 0;
 }
 
+std::string quotable(std::string_view text) {
+    constexpr int most = 40;
+    std::string quoted;
+    for (int i = 0; !text.empty(); ++i) {
+        if (i == most) return quoted + "...";
+        appendCharacter(quoted, takeCharacter(text).codePoint);
+    }
+    return quoted;
+}
+
 std::string_view trimBlanks(std::string_view text) {
     const std::size_t first = text.find_first_not_of(' ');
     if (first == std::string_view::npos) return {};

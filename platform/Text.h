@@ -32,6 +32,9 @@ void appendCharacter(std::string& text, char32_t codePoint);
 /// Whether a reader would see the character: it is no control, mark of direction or other invisible one.
 [[nodiscard]] bool hasShape(char32_t codePoint);
 
+/// `text` as far as a message can quote it: a long one ends with "..." after some forty characters.
+[[nodiscard]] std::string quotable(std::string_view text);
+
 /// `text` without the blanks (U+0020) at both ends.
 [[nodiscard]] std::string_view trimBlanks(std::string_view text);
 

@@ -19,8 +19,8 @@ namespace {
 /// Line ends as "\n"; a blank that does not break stays one, unlike in the editor's own plain text.
 QString textOf(const QPlainTextEdit& memo) {
     QString text = memo.document()->toRawText();
-    for (const char16_t end : {QChar::ParagraphSeparator, QChar::LineSeparator})
-        text.replace(QChar(end), u'\n');
+    for (const QChar end : {QChar(QChar::ParagraphSeparator), QChar(QChar::LineSeparator)})
+        text.replace(end, u'\n');
     return text;
 }
 

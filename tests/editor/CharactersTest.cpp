@@ -224,7 +224,8 @@ TEST_F(Characters, CannotBeAddedToAJobWithBytesThatAreNone) {
     putJob("a", job);
     JobStore utf8{ini};
     utf8.writeAsUtf8();
-    EXPECT_THROW(utf8.change(jobFile("a")).save({{JobLine{"Job", "To", "/日"}}}), std::system_error);
+    EXPECT_THROW(utf8.change({jobFile("a"), utf8.read(jobFile("a")), {}}).save({{JobLine{"Job", "To", "/日"}}}),
+                 std::system_error);
     EXPECT_EQ(jobBytes("a"), job);
 }
 
