@@ -15,8 +15,8 @@ class ScriptDriver;
 /// What a script can do besides handing over the user's events.
 struct ScriptVerb {
     Verb verb;
-    bool answers;  ///< queues the answer to a question that a later event raises
-    void (*run)(ScriptDriver& driver, const Arguments& given);
+    bool answers = false;  ///< queues the answer to a question that a later event raises
+    void (*run)(ScriptDriver& driver, const Arguments& given) = nullptr;
 };
 
 /// All verbs of the language, in the order in which the help shows them.
@@ -24,7 +24,7 @@ struct ScriptVerb {
 
 /// One line, ready to run: an event of the user, a verb of the script's own, or a fault.
 struct ScriptStep {
-    int line;
+    int line = 0;
     const UserEvent* event = nullptr;
     const ScriptVerb* own = nullptr;
     Arguments arguments = {};

@@ -16,8 +16,8 @@ struct UserEvent {
     };
 
     Verb verb;
-    Target target;
-    void (*act)(const OpenWindows& windows, const Arguments& given);
+    Target target = Target::form;
+    void (*act)(const OpenWindows& windows, const Arguments& given) = nullptr;
 };
 
 /// In the order in which help and documents show them.

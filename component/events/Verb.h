@@ -12,8 +12,8 @@ namespace kestedit {
 
 struct Verb {
     std::string_view name;
-    std::array<const ArgumentKind*, 2> takes;  ///< null behind the last
-    std::string_view meaning;                  ///< for the help text
+    std::array<const ArgumentKind*, 2> takes{};  ///< null behind the last
+    std::string_view meaning;                    ///< for the help text
 };
 
 /// "set-date CONTROL YYYY-MM-DD"
