@@ -200,7 +200,7 @@ void CommandLine::addEditorOptions(CLI::App& command) {
         command.add_option_function<std::string>(name, assign, meaning)->type_name(type);
     };
     text("--job-dir", editor_.jobDir, "DIR",
-         "Folder of the jobs (default: that of FILE; for new, one of the user's own)");
+         "Folder of the jobs, in which FILE must lie (default: that of FILE; for new, one of the user's own)");
     text("--extension", editor_.extension, "EXT", "Behind a job's name (default: .job)");
     checked("--view", "N", "View level: 4 shows every page; 9, 15 and 23 show fewer (default: 4)",
             [this](const std::string& given) {
