@@ -214,6 +214,21 @@ TEST_F(Characters, WhoseBytesWouldBeReadAsOthersAreAskedAboutWhenSaving) {
     EXPECT_THROW(JobStore{ini}.create(jobFile("a"), {{JobLine{"Job", "From", "/Ã¤"}}}), std::system_error);
 }
 
+TEST_F(Characters, OfLinesThatStayTellOfThePageAsWell) {
+    const std::string own = "[Job]\r\nName=a\r\nFrom=/\xC3\xA4\r\n; gr\xFCn\r\n";
+    load(own);
+    EXPECT_EQ(form().dxSource.text(), "/Ã¤");
+    type("dxComment", "x");
+    save();
+    EXPECT_TRUE(holds("a", "From=/\xC3\xA4\r\n")) << "one byte elsewhere tells";
+    load("[Job]\r\nName=a\r\nFrom=/\xFC\r\n; \xC3\xA4\r\n");
+    type("dxSource", "/x");
+    prompts.answers = {Answer::yes};
+    save();
+    EXPECT_TRUE(prompts.answers.empty()) << "without that letter the comment would be read as another";
+    EXPECT_TRUE(holds("a", "; Ã¤\r\n"));
+}
+
 TEST_F(Characters, CannotBeAddedToAJobWithBytesThatAreNone) {
     const std::string job = "[Job]\r\nName=a\r\n; a\x81\r\nFrom=/b\x8D\r\n";
     load(job);

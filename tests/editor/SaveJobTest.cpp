@@ -292,6 +292,16 @@ TEST_F(SaveChangedJob, AnAnswerHoldsForWhatItWasGivenOn) {
     EXPECT_EQ(stored("From"), "/again");
 }
 
+TEST_F(SaveChangedJob, ANewNameIsTheFilesNameWhateverTheAnswer) {
+    type("dxName", "b");
+    type("dxSource", "/mine");
+    other("Name", "theirs");
+    other("From", "/theirs");
+    save({Answer::no});
+    EXPECT_EQ(stored("Name", "b") + stored("From", "b"), "b/theirs");
+    EXPECT_EQ(jobNames(), "b.job ");
+}
+
 TEST_F(SaveChangedJob, WhatRunnersWriteStands) {
     for (const auto& [key, value] : {std::pair{"RunState", "1"}, {"Counter", "7"}, {"IntState", "21.11.2026"}})
         other(key, value);
