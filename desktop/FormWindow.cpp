@@ -97,6 +97,7 @@ void FormWindow::handle(const Waiting& waiting) {
 
 void FormWindow::takeOver(const Waiting& waiting) {
     std::string refusal;
+    const bool wasUtf8 = form_.StoredAsUtf8;
     try {
         waiting.event(form_);
     } catch (const EventRefused& refused) {
@@ -105,8 +106,11 @@ void FormWindow::takeOver(const Waiting& waiting) {
         refresh();
         tell(failure.what(), MessageIcon::error);
     }
-    // It stands until the user has done something else at any field: until then, nothing moves under the pointer.
-    if (waiting.field) {
+    // It stands until the user has done something at another field, has emptied this one, or has made the text welcome:
+    // typing on after a letter that was not taken does not take the reason away.
+    const bool typesOn = refusal.empty() && refused_ == waiting.field && form_.StoredAsUtf8 == wasUtf8 &&
+                         waiting.field && !waiting.field->control().isEmpty();
+    if (waiting.field && !typesOn) {
         if (refused_) refused_->setRefusal({});
         waiting.field->setRefusal(refusal);
         refused_ = waiting.field;

@@ -38,6 +38,7 @@ void replaceUserChange(QLineEdit& line, const QString& wanted) {
     const QSignalBlocker quiet(line);
     const int caret = caretAmongKept(line.text(), line.cursorPosition(), wanted);
     line.undo();
+    if (line.text() == wanted) return;  // taken back whole, with the selection that it replaced
     editInto(line, wanted);
     line.setCursorPosition(caret);
 }

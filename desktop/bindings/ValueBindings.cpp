@@ -67,6 +67,8 @@ class PickBinding final : public ValueBinding<QComboBox> {
         if (edit().currentIndex() != index) edit().setCurrentIndex(index);
         // A text that is no entry of the list stands in the job all the same.
         if (index < 0) edit().setPlaceholderText(toQt(control().text()));
+        // A narrow page cuts a long entry.
+        if (control().ToolTipText.empty()) edit().setToolTip(toolTipText(control().text()));
     }
 
   private:
@@ -77,7 +79,6 @@ class NumberBinding : public ValueBinding<NumberEdit> {
   public:
     NumberBinding(EditorControl& control, NumberEdit& edit, EventGate& gate)
         : ValueBinding(control, edit, gate), range_(numberRange(control.Base)) {
-        edit.setDigits(static_cast<int>(std::to_string(range_.most).size()));
         QObject::connect(&edit, &NumberEdit::typed, &edit, [this](std::optional<std::int64_t> number) {
             this->hand([this, number](frmEdit& form) { form.onNumberTyped(this->control(), number); });
         });
@@ -91,6 +92,10 @@ class NumberBinding : public ValueBinding<NumberEdit> {
         const auto* const held = std::get_if<std::int64_t>(&control().EditValue);
         const std::optional<std::int64_t> number = held ? std::optional{*held} : std::nullopt;
         if (edit().number() != number) edit().setNumber(number);
+        // A stored number may be longer than any that can be typed.
+        const auto digits = [](std::int64_t of) { return static_cast<int>(std::to_string(of).size()); };
+        const int needed = std::max(digits(range_.most), digits(number.value_or(0)));
+        if (edit().digits() != needed) edit().setDigits(needed);
     }
     // A step at the end of the range leads nowhere, and there is nothing to say about it.
     virtual void step(frmEdit& form, int steps) {

@@ -41,11 +41,14 @@ void NumberEdit::stepBy(int steps) {
 }
 
 QValidator::State NumberEdit::validate(QString& text, int&) const {
+    // Numbers are often copied with blanks between their groups or around them.
+    for (qsizetype i = text.size(); i-- > 0;)
+        if (text[i].isSpace()) text.remove(i, 1);
     if (text.isEmpty()) return QValidator::Acceptable;
     if (text == QLatin1String("-")) return QValidator::Intermediate;
     bool isNumber = false;
     (void)text.toLongLong(&isNumber);
-    return isNumber && !text.contains(u' ') && !text.contains(u'+') ? QValidator::Acceptable : QValidator::Invalid;
+    return isNumber && !text.contains(u'+') ? QValidator::Acceptable : QValidator::Invalid;
 }
 
 QAbstractSpinBox::StepEnabled NumberEdit::stepEnabled() const {

@@ -25,6 +25,7 @@ PageArea::PageArea(QWidget* page, QWidget* parent) : QScrollArea(parent) {
     setFocusPolicy(Qt::NoFocus);
     setWidget(page);
     limitWidth();
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &PageArea::giveBack);
 }
 
 int PageArea::placeOf(const QWidget& part) const {
@@ -32,6 +33,7 @@ int PageArea::placeOf(const QWidget& part) const {
 }
 
 void PageArea::bringBack(const QWidget& part, int place) {
+    widget()->setMinimumHeight(0);
     layOutNow();
     const int wanted = verticalScrollBar()->value() + placeOf(part) - place;
     if (wanted > verticalScrollBar()->maximum()) {
@@ -39,6 +41,12 @@ void PageArea::bringBack(const QWidget& part, int place) {
         layOutNow();
     }
     verticalScrollBar()->setValue(wanted);
+}
+
+// Only what is out of sight goes, so that nothing moves by it.
+void PageArea::giveBack() {
+    const int seen = verticalScrollBar()->value() + viewport()->height();
+    if (widget()->minimumHeight() > seen) widget()->setMinimumHeight(seen);
 }
 
 void PageArea::hideEvent(QHideEvent* event) {

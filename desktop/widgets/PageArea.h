@@ -16,8 +16,9 @@ class PageArea : public QScrollArea {
 
     /// Where `part` of the page stands on the screen, from the area's upper edge.
     [[nodiscard]] int placeOf(const QWidget& part) const;
-    /// Scrolls so that `part` stands at `place` again after the page has changed: what the user has just clicked stays
-    /// under the pointer. A page that has become too short for that keeps room below its end until it is left.
+    /// Scrolls so that `part` stands at `place` again after the page has changed: what the user is clicking stays under
+    /// the pointer. A page that has become too short for that keeps room below its end, and gives it back as it is
+    /// scrolled up or left.
     void bringBack(const QWidget& part, int place);
 
   protected:
@@ -26,6 +27,7 @@ class PageArea : public QScrollArea {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    void giveBack();
     void limitWidth();
 };
 
