@@ -159,6 +159,7 @@ using F = FormModel;
 constexpr auto noticeRules = std::to_array<NoticeRule>({
     {"dxName",            atOnce,   jobName},
     {"dxName",            atOnce,   unreadJob},
+    {"dxName",            whenLeft, [](const F& form) { return when(form.NameWanted && trimBlanks(form.dxName.text()).empty(), TextId::nameMissingHere); }},
     {"dxComment",         atOnce,   notes},
     {"optAction(0)",      atOnce,   action},
     {"chkPreview",        atOnce,   hiddenSchedule},
@@ -204,8 +205,20 @@ Noticed ofAnyControl(const EditorControl& control) {
                   {std::to_string(*number), std::to_string(range.least), std::to_string(range.most)}};
 }
 
-std::string inWords(const modIniHandler& texts, const Notice& notice) {
-    return textOf(texts, notice.text, std::span{notice.values});
+/// What is only worth knowing; everything else may be a mistake.
+bool warns(const Notice& notice) {
+    using enum TextId;
+    constexpr std::array information{notesRoom, notesRoomUtf8, notesCut, passwordReadable};
+    return std::ranges::find(information, notice.text) == information.end();
+}
+
+struct Told {
+    std::string words;
+    bool warns = false;
+};
+
+Told inWords(const modIniHandler& texts, const Notice& notice) {
+    return {textOf(texts, notice.text, std::span{notice.values}), warns(notice)};
 }
 
 /// What the present choices take away has nothing wrong with it. The first member of a group speaks for all.
@@ -217,11 +230,11 @@ bool canHaveNotice(const EditorControl& control) {
 
 void RefreshNotices(FormModel& form, const modIniHandler& texts, const Platform& platform,
                     const EditorControl* typing) {
-    std::map<const EditorControl*, std::string> told;
+    std::map<const EditorControl*, Told> told;
     for (const EditorControl* control : form.controls()) {
         if (!holdsMoment(*control) || !canHaveNotice(*control)) continue;
         const std::string notice = MomentNotice(*control, texts, platform);
-        if (!notice.empty()) told.emplace(control, notice);
+        if (!notice.empty()) told.emplace(control, Told{notice, true});
     }
     for (const NoticeRule& rule : noticeRules) {
         const EditorControl& control = form.at(rule.control);
@@ -231,8 +244,11 @@ void RefreshNotices(FormModel& form, const modIniHandler& texts, const Platform&
     }
     for (EditorControl* control : form.controls()) {
         const auto own = told.find(control);
-        const Noticed notice = own == told.end() && canHaveNotice(*control) ? ofAnyControl(*control) : std::nullopt;
-        control->Notice = own != told.end() ? own->second : notice ? inWords(texts, *notice) : std::string{};
+        const Noticed anyControls =
+            own == told.end() && canHaveNotice(*control) ? ofAnyControl(*control) : std::nullopt;
+        const Told shown = own != told.end() ? own->second : anyControls ? inWords(texts, *anyControls) : Told{};
+        control->Notice = shown.words;
+        control->NoticeWarns = shown.warns;
     }
 }
 

@@ -142,6 +142,7 @@ class KESTEDIT_EXPORT frmEdit : public FormModel {
     void save();
     void saveNew(const std::string& name);
     void saveEdited(const std::string& name);
+    void wantName();
     [[nodiscard]] Answer askForName(Buttons buttons, TextId firstLine);
     [[nodiscard]] bool confirmOverwrite(TextId question);
     [[nodiscard]] bool create(const std::string& file);

@@ -82,6 +82,7 @@ void frmEdit::save() {
 
 void frmEdit::saveNew(const std::string& name) {
     if (name.empty()) {
+        wantName();
         (void)askForName(Buttons::ok, TextId::nameMissing);
         return open(dxName);
     }
@@ -94,8 +95,14 @@ void frmEdit::saveNew(const std::string& name) {
     close();
 }
 
+void frmEdit::wantName() {
+    NameWanted = true;
+    refreshNotices();
+}
+
 void frmEdit::saveEdited(const std::string& name) {
     if (name.empty()) {
+        wantName();
         if (askForName(Buttons::yesNo, TextId::nameMissingEdited) == Answer::yes) {
             dxName.EditValue = LoadedName;
             changed(dxName);

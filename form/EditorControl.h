@@ -79,6 +79,7 @@ struct KESTEDIT_EXPORT EditorControl {
     int TabIndex = -1;  ///< -1: not in the tab sequence
     std::string Caption;
     std::string ToolTipText;
+    bool NoticeWarns = true;  ///< false: the notice is only worth knowing
     std::string Notice;  ///< stands beside the control: what is wrong with its content, or worth knowing; mostly empty
     std::vector<std::string> Items;
     /// Of a pick list: position of the entry that was loaded or picked, whatever its text is; -1 for none. May lie

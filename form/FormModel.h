@@ -321,6 +321,7 @@ struct KESTEDIT_EXPORT FormModel : ControlRegistry {
     bool InvalidExtChars = false;
     /// What the filter of a field has dropped, each character once, for the notice beside the field.
     std::map<const EditorControl*, std::string> DroppedChars;
+    bool NameWanted = false;  ///< a save has met a job without a name
     bool DateFormatChanged = false;
     bool StoredAsUtf8 = false;  ///< the job's file is UTF-8, or will be: a character may take several bytes
     int HandledUnZipItem = -1;  ///< the optUnZip member whose rule ran last

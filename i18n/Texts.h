@@ -86,6 +86,7 @@ enum class TextId : std::uint8_t {
     noDestinationToMonitor,
     actionNotInView,
     scheduleNotInView,
+    nameMissingHere,
     numberRange,
     noDateKept,
     noDate,

@@ -52,6 +52,7 @@ void Binding::showNotice() {
         if (!placeNotice(*notice_)) return;
         placed_ = widget_.parentWidget();
     }
+    notice_->setWarns(!refusal_.empty() || control_.NoticeWarns);
     if (shown_.notice != wanted) {
         shown_.notice = wanted;
         const QString text = linesToQt(wanted);

@@ -3,6 +3,7 @@
 #include <QIcon>
 #include <QPainter>
 #include <QStyle>
+#include <utility>
 
 namespace kestedit {
 
@@ -19,6 +20,10 @@ NoticeLabel::NoticeLabel(QWidget* parent) : QLabel(parent) {
     setContentsMargins(gap + signSize + gap, gap, gap, gap);
 }
 
+void NoticeLabel::setWarns(bool warns) {
+    if (std::exchange(warns_, warns) != warns) update();
+}
+
 void NoticeLabel::paintEvent(QPaintEvent* event) {
     if (!text().isEmpty()) {
         QPainter painter(this);
@@ -30,7 +35,9 @@ void NoticeLabel::paintEvent(QPaintEvent* event) {
         painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
         const int top = gap + (fontMetrics().height() - signSize) / 2;
         const QRect sign = QStyle::visualRect(layoutDirection(), rect(), QRect(gap, top, signSize, signSize));
-        style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this).paint(&painter, sign);
+        style()
+            ->standardIcon(warns_ ? QStyle::SP_MessageBoxWarning : QStyle::SP_MessageBoxInformation, nullptr, this)
+            .paint(&painter, sign);
     }
     QLabel::paintEvent(event);
 }

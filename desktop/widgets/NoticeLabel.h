@@ -11,9 +11,14 @@ class NoticeLabel : public QLabel {
 
   public:
     explicit NoticeLabel(QWidget* parent = nullptr);
+    /// Whether the sign warns, as at first, or only informs.
+    void setWarns(bool warns);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
+
+  private:
+    bool warns_ = true;
 };
 
 }  // namespace kestedit
