@@ -51,10 +51,10 @@ missing=()
 for group in "${@:-build}"; do
     [[ $group =~ ^(build|bench|lint|fuzz|package)$ ]] || fail "unknown group '$group': build, bench, lint, fuzz or package"
     declare -n packages=$group
-    for package in "${packages[@]}"; do
+    for name in "${packages[@]}"; do
         # A package that was removed but not purged is still known, with another status.
-        status=$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null) || status=unknown
-        [[ $status == installed ]] || missing+=("$package")
+        status=$(dpkg-query -W -f '${db:Status-Status}' "$name" 2>/dev/null) || status=unknown
+        [[ $status == installed ]] || missing+=("$name")
     done
 done
 ((${#missing[@]})) || exit 0
