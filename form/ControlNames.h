@@ -39,8 +39,7 @@ template <typename Table, typename Name>
 template <typename Table, typename Name>
 [[nodiscard]] consteval bool namesNoneTwice(const Table& table, Name name) {
     for (auto row = table.begin(); row != table.end(); ++row) {
-        const auto rest = std::ranges::subrange(std::next(row), table.end());
-        if (std::ranges::find(rest, std::invoke(name, *row), name) != table.end()) return false;
+        if (std::ranges::find(std::next(row), table.end(), std::invoke(name, *row), name) != table.end()) return false;
     }
     return true;
 }

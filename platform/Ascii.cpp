@@ -54,8 +54,10 @@ struct Key {
 Key keyOfThisProcess() {
     Key key{};
     if (::getrandom(&key, sizeof key, 0) == static_cast<ssize_t>(sizeof key)) return key;
-    const auto now = std::chrono::steady_clock::now().time_since_epoch().count();  // a kernel without that call
-    return {static_cast<std::uint64_t>(now), reinterpret_cast<std::uintptr_t>(&key)};
+    // A kernel without that call.
+    key.first = static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count());
+    key.second = reinterpret_cast<std::uintptr_t>(&key);
+    return key;
 }
 
 /// SipHash-1-3, the keyed hash that hash tables under foreign names use: without the key nobody finds names that share

@@ -40,7 +40,7 @@ class RecentFiles {
   private:
     struct Entry {
         std::string path;
-        bool recognise;  // how the page of the text was found
+        bool recognise = false;  // how the page of the text was found
         SharedText text;
         std::uint64_t scope = 0;  // in which the disk was last looked at
     };

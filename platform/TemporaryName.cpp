@@ -7,11 +7,11 @@
 #include <chrono>
 #include <csignal>
 #include <cstdint>
-#include <cstdlib>
-#include <dirent.h>
+#include <filesystem>
 #include <optional>
 #include <string_view>
 #include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
 #include <vector>
 
@@ -28,8 +28,8 @@ constexpr std::size_t hashLength = 8;
 /// A short stand-in for a text of any length and any characters. A clash costs nothing: what it would remove is dead.
 std::string hashOf(std::string_view text) {
     std::uint32_t hash = 2166136261U;
-    for (const unsigned char byte : text)
-        hash = (hash ^ byte) * 16777619U;
+    for (const char c : text)
+        hash = (hash ^ static_cast<unsigned char>(c)) * 16777619U;
     std::array<char, hashLength> digits{};
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), hash, 16).ptr;
     const std::string_view written(digits.data(), static_cast<std::size_t>(end - digits.data()));
@@ -83,19 +83,14 @@ bool isOlderThanADay(const std::filesystem::path& file) {
     return system_clock::now() - system_clock::from_time_t(status.st_mtim.tv_sec) > hours{24};
 }
 
-int isTemporary(const dirent* entry) {
-    return std::string_view(entry->d_name).starts_with(prefix) ? 1 : 0;
-}
-
 std::vector<std::string> temporariesIn(const std::filesystem::path& folder) {
-    dirent** entries = nullptr;
-    const int count = ::scandir(folder.c_str(), &entries, isTemporary, nullptr);
     std::vector<std::string> names;
-    for (int i = 0; i < count; ++i) {
-        names.emplace_back(entries[i]->d_name);
-        std::free(entries[i]);
+    std::error_code failed;  // a folder that cannot be listed is left as it is
+    for (std::filesystem::directory_iterator entry(folder, failed), end; !failed && entry != end;
+         entry.increment(failed)) {
+        const std::string name = entry->path().filename().string();
+        if (name.starts_with(prefix)) names.push_back(name);
     }
-    std::free(entries);
     return names;
 }
 

@@ -79,7 +79,7 @@ TimeFormat TimeFormat::ofUserLocale() {
     if (locale == locale_t{}) return {};
     std::string format = nl_langinfo_l(T_FMT, locale);
     if (format.find("%r") != std::string::npos) format = nl_langinfo_l(T_FMT_AMPM, locale);
-    const TimeFormat times = ofLocaleFormat(format, nl_langinfo_l(AM_STR, locale), nl_langinfo_l(PM_STR, locale));
+    TimeFormat times = ofLocaleFormat(format, nl_langinfo_l(AM_STR, locale), nl_langinfo_l(PM_STR, locale));
     freelocale(locale);
     return times;
 }
