@@ -199,5 +199,19 @@ TEST_F(Holes, ANoticeComesWithoutMovingWhatBringsIt) {
     }
 }
 
+// A finding about the field that a click leaves comes between press and release.
+TEST_F(Holes, AClickThatBringsAFindingAboutAnotherFieldCounts) {
+    open();
+    window().resize(800, 600);
+    enter("dxSource", "relative");
+    QWidget& box = binding("chkEditPaths").widget();
+    const QPoint pointer = box.mapToGlobal(QPoint(8, box.height() / 2));
+    QTest::mousePress(&box, Qt::LeftButton, Qt::NoModifier, box.mapFromGlobal(pointer));
+    settle();
+    ASSERT_NE(notice("dxSource"), "");
+    QTest::mouseRelease(&box, Qt::LeftButton, Qt::NoModifier, box.mapFromGlobal(pointer));
+    EXPECT_FALSE(at("chkEditPaths").isSet());
+}
+
 }  // namespace
 }  // namespace kestedit::test
