@@ -61,7 +61,7 @@ constexpr std::array nodesWithoutSchedule{
 };
 
 // This view numbers its pages by itself, and deliberately shows the paths under the name's title and the comments last,
-// under a page number that nothing asks for. Test: Navigation.View23PairsNameWithPaths.
+// under a page number that nothing asks for. Story: tests/golden/pages.golden.
 constexpr std::array smallNodes{
     ViewNode{ 0, nameAndNotes,    &F::fraPath,        PageRules::nameAndPaths},
     ViewNode{ 1, mode,            &F::fraMode,        PageRules::none},

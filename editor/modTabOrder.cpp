@@ -17,7 +17,7 @@ struct TabPlace {
 };
 
 // Number 41 is given to no control, and chkZipDelComp stands twice: its second place, behind chkZipDelDeComp, counts.
-// Test: TabOrder.ZipDelCompStandsBehindZipDelDeComp.
+// Story: tests/golden/pages.golden.
 // clang-format off
 constexpr std::array tabList{
     TabPlace{  0, "dxTreeList1"},         TabPlace{  1, "dxName"},              TabPlace{  2, "dxComment"},
