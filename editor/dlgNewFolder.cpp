@@ -18,7 +18,7 @@ namespace {
 constexpr std::size_t shortestName = 2;
 
 /// What the dialog shows and says for one path field. The fixed English text of the source is deliberate; the other two
-/// fields use the translated one. Test: NewFolder.ExistingFolderIsReportedByField.
+/// fields use the translated one. Test: tests/golden/folders.golden.
 struct Service {
     EditorControl FormModel::*field;
     std::string_view fixedMessage;  ///< empty: the translated message

@@ -1,100 +1,12 @@
-// What the user puts into single fields: filters, spin steps, choosers, the new-folder dialog, and events refused.
-#include <array>
-#include <tuple>
-
+// Events that are refused, and texts that are not left yet, very long or of another locale.
 #include "tests/editor/EditorFixture.h"
 
 namespace kestedit {
 namespace {
 
-namespace fs = std::filesystem;
-
-using TextFilters = test::EditorTest;
-using SpinButtons = test::EditorTest;
 using Events = test::EditorTest;
-struct NewFolder : test::EditorTest {
-    static constexpr std::array fields{"dxSource", "dxDest", "dxMonitorPath"};
-    void openFields() {
-        create();
-        choose("optIntervall", 2);
-        choose("optMonitorPath", 2);
-        for (const auto field : fields)
-            type(field, jobs.string());
-    }
-    /// Button 1 of the field, then a name typed and the button pressed. Whether that closed the dialog.
-    bool createFolder(std::string_view field, const std::string& name) {
-        bool closed = false;
-        prompts.newFolder = [&](dlgNewFolder& dialog) {
-            dialog.onTextTyped(dialog.dxTextEdit1, name);
-            dialog.onCommand(dialog.cmdCreate);
-            closed = !dialog.isOpen();
-        };
-        button(field, 1);
-        return closed;
-    }
-};
-using Choosers = NewFolder;
-
-TEST_F(TextFilters, DropWhatTheFieldDoesNotTakeUnlessItIsARegularExpression) {
-    const std::tuple<std::string_view, std::string, std::string, bool FormModel::*, std::string_view> rows[] = {
-        {"dxExt", "Dö_1.T?;-X, *Ü", "Dö1.TX, *Ü", &FormModel::InvalidExtChars, ""},
-        {"dxRenamer", "Ä 2024-01_r.doc", "Ä 2024-01_rdoc", &FormModel::InvalidRenamerChars, ""},
-        {"dxFileName", "É*?é_.<>|/\\:´~^¨¦`\"", "É*?é_.", &FormModel::InvalidFileNameChars, "chkRegExFile"},
-        {"dxFolderMatch", "x:\\y", "xy", &FormModel::InvalidFolderMatchChars, "chkRegExFolder"},
-    };
-    for (const auto& [field, typed, kept, flag, regEx] : rows) {
-        SCOPED_TRACE(typed);
-        create();
-        check("chkSubFolder");
-        for (const auto group : {"optFolderMatch", "optFileMatch", "optExt"})
-            choose(group, 1);
-        choose("optExist", 2);
-        type(field, kept);
-        EXPECT_FALSE(form().*flag);
-        type(field, typed);
-        EXPECT_EQ(at(field).text(), kept);
-        type(field, kept);
-        EXPECT_TRUE(form().*flag) << "stays when the field is clean";
-        if (regEx.empty()) continue;
-        for (const int state : {2, 1}) {  // grey is not set
-            check(regEx, state);
-            type(field, typed);
-            EXPECT_EQ(at(field).text(), state == 1 ? typed : kept);
-        }
-        check(regEx, 0);
-        EXPECT_EQ(at(field).text(), typed) << "filtered by the next edit only";
-        type(field, typed + "x");
-        EXPECT_EQ(at(field).text(), kept + "x");
-    }
-}
-
-TEST_F(SpinButtons, CarryBorrowAndStopAtOneMinute) {
-    using Numbers = std::array<std::int64_t, 3>;  // days, hours, minutes
-    const std::tuple<Numbers, std::size_t, bool, Numbers> rows[] = {
-        {{0, 23, 59}, 2, true, {1, 0, 0}}, {{0, 5, 59}, 2, true, {0, 6, 0}},   {{2, 0, 0}, 2, false, {1, 23, 59}},
-        {{0, 2, 0}, 2, false, {0, 1, 59}}, {{0, 0, 1}, 2, false, {0, 0, 1}},   {{0, 0, 0}, 2, false, {0, 0, 1}},
-        {{0, 0, 75}, 2, true, {0, 0, 76}}, {{1, 23, 10}, 1, true, {2, 0, 10}}, {{3, 0, 7}, 1, false, {2, 23, 7}},
-        {{0, 0, 5}, 1, false, {0, 0, 5}},  {{0, 1, 0}, 1, false, {0, 0, 1}},   {{1, 0, 0}, 0, false, {0, 0, 1}},
-        {{0, 0, 3}, 0, false, {0, 0, 3}},
-    };
-    constexpr std::array<std::array<const char*, 6>, 2> groups{
-        {{"dxDays", "dxHours", "dxMinutes", "lblDays", "lblHours", "lblMinutes"},
-         {"dxAge", "dxAgeHours", "dxAgeMinutes", "lblFileAgeDays", "lblFileAgeHours", "lblFileAgeMinutes"}}};
-    create();
-    choose("optAge", 1);
-    for (const auto& group : groups) {
-        for (const auto& [from, stepped, up, to] : rows) {
-            SCOPED_TRACE(group[0] + testing::PrintToString(from));
-            for (std::size_t unit = 0; unit < 3; ++unit)
-                number(group[unit], from[unit]);
-            spin(group[stepped], up);
-            for (std::size_t unit = 0; unit < 3; ++unit) {
-                EXPECT_EQ(at(group[unit]).number(), to[unit]);
-                EXPECT_EQ(at(group[unit + 3]).Caption, text(to[unit] == 1 ? 30 + unit : 29 - unit));
-            }
-        }
-    }
-}
+using PatternNotice = test::EditorTest;
+using TypedMoments = test::EditorTest;
 
 TEST_F(Events, RefusedWhereAUserCouldNotActAndNothingChanges) {
     create();
@@ -122,48 +34,9 @@ TEST_F(Events, RefusedWhereAUserCouldNotActAndNothingChanges) {
     act(3);
     check("chkZipAll");  // on a page that is not shown
     EXPECT_EQ(form().chkZipAll.State, 1);
-}
-
-TEST_F(Choosers, PathGoesIntoItsField) {
-    openFields();
-    check("chkEditPaths", 0);
-    for (const auto field : fields) {
-        button(field, 0);
-        EXPECT_EQ(at(field).text(), jobs.string()) << "cancelled";
-        prompts.choices = {"/chosen"};
-        button(field, 0);
-        EXPECT_EQ(at(field).text() + at(field).ToolTipText, "/chosen/chosen");
-    }
-    EXPECT_EQ(prompts.lastChooser, "Verzeichnis für Überwachung auswählen:");
     check("chkExecDo");
-    prompts.choices = {"/usr/bin/true"};
-    button("dxExecPath", 1);
-    EXPECT_EQ(form().dxExecPath.text(), "") << "it has one button";
     button("dxExecPath", 0);
-    EXPECT_EQ(form().dxExecPath.text(), "/usr/bin/true");
     EXPECT_EQ(prompts.lastChooser, "Alle Dateien|*|Programme (*.exe, *.com, *.bat)|*.exe;*.com;*.bat");
-}
-
-TEST_F(NewFolder, ExistingFolderIsReportedByField) {
-    openFields();
-    constexpr std::array messages{"Folder already exists.", "Ordner existiert schon.", "Ordner existiert schon."};
-    for (std::size_t i = 0; i < fields.size(); ++i) {
-        const std::string name = "ä" + std::to_string(i);
-        fs::create_directory(jobs / name);
-        prompts.answers = {Answer::ok};
-        EXPECT_FALSE(createFolder(fields[i], name));
-        EXPECT_EQ(prompts.messages.back().text, messages[i]);
-        EXPECT_EQ(at(fields[i]).text(), jobs.string());
-        fs::remove(jobs / name);
-        EXPECT_TRUE(createFolder(fields[i], name));
-        EXPECT_TRUE(fs::is_directory(jobs / name));
-        const std::string created = (jobs / name).string();
-        EXPECT_EQ(at(fields[i]).text() + at(fields[i]).ToolTipText, created + created);
-    }
-    prompts.answers = {Answer::ok};
-    EXPECT_FALSE(createFolder("dxDest", "../b"));
-    EXPECT_NE(prompts.messages.back().text.find("../b: "), std::string::npos) << prompts.messages.back().text;
-    expectRefused([this] { createFolder("dxDest", "ä"); });  // a name has two characters
 }
 
 TEST_F(Events, AClosedWindowTakesNone) {
@@ -202,8 +75,9 @@ TEST_F(Events, AClosedWindowTakesNone) {
     EXPECT_EQ(jobNames(), "cmdSave.job ");
 }
 
-TEST_F(NewFolder, AClosedDialogTakesNoEvent) {
-    openFields();
+TEST_F(Events, AClosedDialogTakesNone) {
+    create();
+    type("dxSource", jobs.string());
     prompts.newFolder = [](dlgNewFolder& dialog) {
         dialog.onTextTyped(dialog.dxTextEdit1, "kept");
         dialog.onCommand(dialog.cmdCancel);
@@ -214,6 +88,62 @@ TEST_F(NewFolder, AClosedDialogTakesNoEvent) {
     };
     button("dxSource", 1);
     EXPECT_EQ(test::namesIn(jobs), "");
+}
+
+TEST_F(TypedMoments, AreTakenWhenWholeOrLeftOrSaved) {
+    create();
+    choose("optIntervall", 1);
+    choose("optIntTime", 3);
+    EditorControl& date = at("dxDate");
+    EditorControl& time = at("dxDateTime");
+    const auto dateOf = [&](std::string_view keys) {
+        for (std::size_t size = 1; size <= keys.size(); ++size)
+            type("dxDate", keys.substr(0, size));
+        return dates.text(*date.date());
+    };
+    EXPECT_EQ(dateOf("1/2/20"), "21.11.2026") << "the year may go on";
+    EXPECT_EQ(dateOf("1/2/2028"), "01.02.2028");
+    EXPECT_EQ(dateOf("1/2/20289"), "21.11.2026") << "the value from before the typing";
+    type("dxDate", "1/2/27");
+    form().onEditingFinished(date);
+    EXPECT_FALSE(date.Typed) << "the field shows the date";
+
+    type("dxName", "a");
+    node(0);
+    EXPECT_EQ(dateOf("31.2.2027"), "01.02.2027");
+    EXPECT_EQ(date.Notice, "") << "nothing is said while it is typed";
+    click("cmdSave");
+    ASSERT_TRUE(form().isOpen());
+    EXPECT_EQ(visibleFrames() + form().FocusedControl->Name(), "fraMonitoringdxDate");
+    EXPECT_EQ(date.Typed->text, "31.2.2027") << "stays in the field";
+    type("dxDate", "31.3.2");
+    EXPECT_NE(date.Notice, "") << "goes when it is mended";
+    type("dxDate", "31.3.27");
+    EXPECT_EQ(date.Notice, "");
+
+    platform.times = TimeFormat::ofLocaleFormat("%I:%M:%S %p", "AM", "PM");
+    type("dxDateTime", "25:00");
+    form().onEditingFinished(time);
+    EXPECT_EQ(time.Notice, "„25:00“ ist keine Uhrzeit wie 2:05 PM. Der Auftrag behält 2:05 PM.");
+    type("dxDateTime", "830");
+    EXPECT_EQ(time.time(), test::now.time);
+    click("cmdSave");
+    EXPECT_NE(jobBytes("a").find("IntervalDate=31.03.2027\r\nIntervalTime=08:30:00\r\n"), std::string::npos);
+}
+
+TEST_F(PatternNotice, ALoadedPatternMayBeOfAnyLength) {
+    const std::string notice = "Der reguläre Ausdruck wird an Stelle 10000 zu lang oder wiederholt zu viel.";
+    for (const std::string& pattern : {std::string(100'000, 'a'), std::string(16'000, '(')}) {
+        putJob("Night", "[Job]\nName=Night\nDoFileMatch=1\nUseFileRegEx=1\nFileName=" + pattern + "\n");
+        edit("Night");
+        EXPECT_EQ(at("dxFileName").text(), pattern);
+        EXPECT_EQ(at("dxFileName").Notice, notice);
+        type("dxFileName", "");
+        type("dxFileName", pattern);
+        EXPECT_EQ(at("dxFileName").Notice, notice);
+        click("cmdSave");
+        EXPECT_NE(jobBytes("Night").find("FileName=" + pattern), std::string::npos);
+    }
 }
 
 }  // namespace
