@@ -31,30 +31,6 @@ struct Characters : test::EditorTest {
     }
 };
 
-TEST_F(Characters, OfEveryScriptAreStoredAfterOneQuestionAndReadBack) {
-    for (const std::string path : {"/home/zażółć/gęślą jaźń", "/home/αρχεία/Ελλάδα", "/home/файлы/ёж",
-                                   "/home/書類/日本語", "/home/שלום", "/home/🙂"}) {
-        SCOPED_TRACE(path);
-        prompts.messages.clear();
-        create();
-        prompts.answers = {Answer::yes};
-        type("dxSource", path);
-        for (const auto field : {"dxDest", "dxName", "dxComment", "dxSource"})
-            type(field, field == std::string_view("dxName") ? path.substr(6, path.find('/', 6) - 6) : path + " ü");
-        EXPECT_EQ(prompts.messages.size(), 1U);
-        const std::string name = form().dxName.text();
-        save();
-        EXPECT_TRUE(holds(name, "\r\nFrom=" + path + " ü\r\nTo=" + path + " ü\r\n")) << jobBytes(name);
-        edit(name);
-        EXPECT_EQ(form().dxSource.text(), path + " ü");
-        EXPECT_EQ(form().dxComment.text(), path + " ü");
-        type("dxDest", "/another " + path);
-        save();
-        EXPECT_TRUE(holds(name, "\r\nTo=/another " + path + "\r\n"));
-        EXPECT_EQ(prompts.messages.size(), 1U) << "a job in UTF-8 stays so without a question";
-    }
-}
-
 TEST_F(Characters, QuestionNamesThemAndANoIsAskedAgainForTheNextEditingOnly) {
     create();
     type("dxComment", "before");
@@ -135,14 +111,6 @@ TEST_F(Characters, ChosenOrCreatedAreAskedAboutLikeTypedOnes) {
     EXPECT_TRUE(holds("a", "From=/日本\r\n"));
 }
 
-TEST_F(Characters, ThatAFilterDropsAreNotAskedAbout) {
-    create();
-    choose("optExt", 1);
-    type("dxExt", "txtд");
-    EXPECT_EQ(form().dxExt.text(), "txt");
-    EXPECT_TRUE(form().InvalidExtChars);
-}
-
 TEST_F(Characters, OfForeignLinesAreConvertedWithTheJob) {
     const std::string foreign =
         "; M\xFCll \x80\n[Job]\nName=a\nComment=gr\xFC\xDF\x65\nKey of \xE4nother = "
@@ -181,39 +149,6 @@ TEST_F(Characters, OfAsciiStayAsTheyAreAndAByteOrderMarkIsUtf8) {
     EXPECT_EQ(form().dxDest.text(), "/Ã¤") << "not UTF-8 throughout";
 }
 
-// "Ã¤" in page 1252 is "ä" in UTF-8.
-TEST_F(Characters, WhoseBytesWouldBeReadAsOthersAreAskedAboutWhenSaving) {
-    create();
-    type("dxName", "a");
-    type("dxSource", "/Ã¤");
-    act(3);
-    check("chkZipAll");
-    type("dxZipPwd", "Ã¼");
-    prompts.answers = {Answer::no};
-    click("cmdSave");
-    EXPECT_TRUE(form().isOpen());
-    EXPECT_EQ(jobNames(), "");
-    EXPECT_TRUE(prompts.messages.back().text.starts_with(
-        "Beim nächsten Öffnen würden diese Zeichen als andere gelesen: U+00C3 Ã, U+00A4 ¤\r\n"))
-        << prompts.messages.back().text;
-    prompts.answers = {Answer::yes};
-    save();
-    edit("a");
-    EXPECT_EQ(form().dxSource.text() + form().dxZipPwd.text(), "/Ã¤Ã¼");
-    type("dxSource", "/ö");
-    save();
-    EXPECT_TRUE(holds("a", "From=/ö\r\n"));
-
-    // One letter that is no UTF-8 in this page tells of the page.
-    create();
-    type("dxName", "b");
-    type("dxSource", "/Ã¤/ü");
-    save();
-    edit("b");
-    EXPECT_EQ(form().dxSource.text(), "/Ã¤/ü");
-    EXPECT_THROW(JobStore{ini}.create(jobFile("a"), {{JobLine{"Job", "From", "/Ã¤"}}}), std::system_error);
-}
-
 TEST_F(Characters, OfLinesThatStayTellOfThePageAsWell) {
     const std::string own = "[Job]\r\nName=a\r\nFrom=/\xC3\xA4\r\n; gr\xFCn\r\n";
     load(own);
@@ -242,18 +177,8 @@ TEST_F(Characters, CannotBeAddedToAJobWithBytesThatAreNone) {
     EXPECT_THROW(utf8.change({jobFile("a"), utf8.read(jobFile("a")), {}}).save({{JobLine{"Job", "To", "/日"}}}),
                  std::system_error);
     EXPECT_EQ(jobBytes("a"), job);
-}
-
-TEST_F(Characters, OfACommentAreCutBetweenTwoOfThem) {
-    std::string comment;
-    for (int i = 0; i < 200; ++i)
-        comment += "ж";
-    load("[Job]\nName=a\nComment=" + comment + "\n");
-    EXPECT_EQ(form().dxComment.text(), comment.substr(0, 254));
-    type("dxComment", "жж");
-    EXPECT_TRUE(form().dxComment.Notice.starts_with("Noch frei: 251 von 255 Bytes.")) << form().dxComment.Notice;
-    type("dxComment", comment);
-    EXPECT_TRUE(form().dxComment.Notice.starts_with("145 Bytes zu viel")) << form().dxComment.Notice;
+    EXPECT_THROW(JobStore{ini}.create(jobFile("b"), {{JobLine{"Job", "From", "/Ã¤"}}}), std::system_error)
+        << "in page 1252 the bytes of another letter in UTF-8";
 }
 
 }  // namespace
