@@ -9,8 +9,8 @@ namespace {
 namespace fs = std::filesystem;
 
 struct SaveJob : test::EditorTest {
-    [[nodiscard]] std::string nameIn(std::string_view job) {
-        return ini.read(jobFile(job), "Job", "Name", "(none)", 256);
+    std::string stored(std::string_view key, std::string_view job = "a") {
+        return IniStore{}.read(jobFile(job), "Job", key, "(none)", 256);
     }
     /// Saves with these answers queued and tells the last message, or "saved" when there was none and the form closed.
     std::string save(std::deque<Answer> answers = {}) {
@@ -44,7 +44,7 @@ TEST_F(SaveJob, OwnFilesAreKnownThroughLinksAndOthersAreNot) {
     type("dxName", "c");
     EXPECT_EQ(save(), "saved") << "a link to the job itself";
     EXPECT_EQ(jobNames(), "a.job b.job c.job ");
-    EXPECT_EQ(nameIn("b"), "c");
+    EXPECT_EQ(stored("Name", "b"), "c");
     // A host whose two properties lead to different jobs: the one that was not opened is another's.
     fs::create_directory(folder.path() / "other");
     putJob("../other/a", "[Job]\nName=a\n");
@@ -134,9 +134,6 @@ struct SaveChangedJob : SaveJob {
     }
     void other(std::string_view key, std::string_view value, std::string_view section = "Job") const {
         ASSERT_FALSE(IniStore{}.write(jobFile("a"), section, key, value));
-    }
-    std::string stored(std::string_view key, std::string_view job = "a") {
-        return IniStore{}.read(jobFile(job), "Job", key, "(none)", 256);
     }
     std::string question(const std::string& options) {
         return "Ein anderes Programm hat diesen Auftrag seit dem Öffnen geändert, auch dort, wo Sie ihn geändert haben:"
