@@ -28,7 +28,7 @@ class SharedEvents : public testing::Test, public Surroundings {
         values.ViewLevel = "4";
         kestEdit_create("kestEdit.clsEdit", &editor_);
     }
-    ~SharedEvents() override { kestEdit_release(editor_); }
+    void TearDown() override { kestEdit_release(editor_); }
 
     /// What a script prints, and why it fails if it does.
     std::string printedBy(const std::string& script) {
