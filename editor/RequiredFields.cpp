@@ -12,7 +12,7 @@ bool asksForPattern(const ControlArray<3>& group) {
 }
 
 // Reporting the folder pattern clears the file pattern's flag, deliberately, so that its own report comes back until a
-// regular expression is allowed. Test: SaveJob.FolderPatternIsReportedAgainUntilRegEx.
+// regular expression is allowed. Story: tests/golden/required.golden.
 // clang-format off
 constexpr std::array fields{
     RequiredField{&FormModel::dxRenamer,     [](const FormModel& form) { return form.optExist[Existing::rename].isSet(); },

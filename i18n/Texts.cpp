@@ -19,8 +19,8 @@ struct TextRow {
 using enum TextId;
 
 // "Autrag" and "Autrages" are meant so. Two rows share a key where one question has two built-in wordings, and the name
-// that is missing from an edited job is looked up under the key of the last line, deliberately. Test:
-// SaveJob.EmptyNameOfAnEditedJob.
+// that is missing from an edited job is looked up under the key of the last line, deliberately. Story:
+// tests/golden/names.golden.
 // clang-format off
 constexpr auto rows = std::to_array<TextRow>({
     {nameMissing,            "Messages",       "t3",   "Das Feld 'Name des Autrages' darf nicht leer sein."},
