@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Holds the documents against the program: what its help lists is explained, the example of docs/script.md prints what it
 # says, and docs/extending.md, followed in a copy of the project, works. (The embedding guide is followed by the install
-# test, the samples of the README by the tests of the program.)
+# test, the samples by the tests of the program.)
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
