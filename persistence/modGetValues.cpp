@@ -105,7 +105,8 @@ void loadPick(const Loading& load, const JobRow& row, std::int64_t first) {
     EditorControl& list = load.control(row);
     const std::string text = load.field(row);
     const auto number = numberIn(text);
-    if (number) list.pick(*number - first);
+    const std::int64_t least = first - 2;  // below it nothing differs, and a difference may not be a number
+    if (number) list.pick(std::max(*number, least) - first);
     keepUnread(list, text, number && (list.itemIndex() || list.ItemIndex == -1));
 }
 
