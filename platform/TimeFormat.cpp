@@ -21,7 +21,8 @@ using std::chrono::seconds;
 enum class Half { none, morning, afternoon };
 
 std::string twoDigits(std::int64_t number) {
-    return (number < 10 ? "0" : "") + std::to_string(number);
+    const std::string digits = std::to_string(number);
+    return std::string(digits.size() < 2 ? 1 : 0, '0').append(digits);
 }
 
 std::string lowerCaseOf(std::string_view text) {

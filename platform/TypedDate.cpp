@@ -37,7 +37,8 @@ std::optional<int> yearOf(TypedNumber typed) {
 }
 
 std::optional<Date> dateOf(const Numbers& numbers, std::string_view order) {
-    const auto at = [&](char letter) { return numbers[order.find(letter)]; };
+    // Every order has all three letters; the compiler cannot see it.
+    const auto at = [&](char letter) { return numbers[std::min(order.find(letter), numbers.size() - 1)]; };
     const TypedNumber day = at('d');
     const TypedNumber month = at('M');
     const auto year = yearOf(at('y'));
